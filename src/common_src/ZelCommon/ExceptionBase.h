@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace ZelCommon::Exception {
+
+// Root of the shared library's exceptions. They are thrown as pointers to heap objects
+// (`throw new T(...)`), so that one catch of the pointer type can see every derived kind;
+// ThrowNew and CatchThrown are the only places that create or adopt those objects.
+class Base {
+public:
+    virtual ~Base() = default;
+    virtual const char* TypeName() const = 0;
+
+protected:
+    Base() = default;
+    Base(const Base&) = default;
+    Base& operator=(const Base&) = default;
+};
+
+template <class T, class... Args>
+[[noreturn]] void ThrowNew(Args&&... args) {
+    throw new T(std::forward<Args>(args)...);
+}
+
+// Runs `body`; an exception of type T (or derived) thrown as a pointer is taken into ownership
+// and handed to `onError` as a reference, so no caller can forget to delete it. Returns whether
+// `body` completed.
+template <class T, class Body, class OnError>
+bool CatchThrown(Body&& body, OnError&& onError) {
+    try {
+        std::forward<Body>(body)();
+        return true;
+    } catch (T* raw) {
+        std::unique_ptr<T> owned(raw);
+        std::forward<OnError>(onError)(*owned);
+        return false;
+    }
+}
+
+}  // namespace ZelCommon::Exception
