@@ -6,9 +6,13 @@
 namespace ZelCommon::Path {
 namespace {
 
-bool IsSeparator(wchar_t c) { return c == L'\\' || c == L'/'; }
+bool IsSeparator(wchar_t c) {
+    return c == L'\\' || c == L'/';
+}
 
-std::filesystem::path ToFsPath(const std::wstring& path) { return std::filesystem::path(path); }
+std::filesystem::path ToFsPath(const std::wstring& path) {
+    return std::filesystem::path(path);
+}
 
 }  // namespace
 
@@ -31,7 +35,8 @@ std::wstring ChildFile(std::wstring_view folder, std::wstring_view name) {
 
 std::wstring FolderOf(std::wstring_view path) {
     const size_t last = path.find_last_of(L"\\/");
-    return last == std::wstring_view::npos ? std::wstring() : std::wstring(path.substr(0, last + 1));
+    return last == std::wstring_view::npos ? std::wstring()
+                                           : std::wstring(path.substr(0, last + 1));
 }
 
 std::wstring_view FileNameOf(std::wstring_view path) {

@@ -7,7 +7,9 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-bool IsSurrogate(char32_t c) { return c >= 0xD800 && c <= 0xDFFF; }
+bool IsSurrogate(char32_t c) {
+    return c >= 0xD800 && c <= 0xDFFF;
+}
 
 void AppendCodePoint(std::wstring& out, char32_t c) {
     if constexpr (sizeof(wchar_t) == 2) {
@@ -120,8 +122,8 @@ std::wstring Utf16LeToWide(std::string_view bytes) {
                 const char32_t low =
                     static_cast<char32_t>(data[2 * i + 2] | (data[2 * i + 3] << 8));
                 if (low >= 0xDC00 && low <= 0xDFFF) {
-                    out.push_back(static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) +
-                                                       (low - 0xDC00)));
+                    out.push_back(
+                        static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00)));
                     ++i;
                     continue;
                 }

@@ -5,7 +5,9 @@
 namespace ZelCommon::Text {
 
 // Linux has no ANSI code page; its files and terminals are UTF-8.
-std::string WideToAnsi(std::wstring_view wide) { return WideToUtf8(wide); }
+std::string WideToAnsi(std::wstring_view wide) {
+    return WideToUtf8(wide);
+}
 
 std::wstring ToLower(std::wstring_view text) {
     std::wstring out(text);

@@ -9,7 +9,8 @@ std::string WideToAnsi(std::wstring_view wide) {
         return {};
     }
     const int length = static_cast<int>(wide.size());
-    const int needed = WideCharToMultiByte(CP_ACP, 0, wide.data(), length, nullptr, 0, nullptr, nullptr);
+    const int needed =
+        WideCharToMultiByte(CP_ACP, 0, wide.data(), length, nullptr, 0, nullptr, nullptr);
     if (needed <= 0) {
         return {};
     }
