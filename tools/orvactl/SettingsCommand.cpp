@@ -1,0 +1,100 @@
+#include "SettingsCommand.h"
+
+#include <optional>
+
+#include "CommandErrors.h"
+#include "FileChecks.h"
+#include "Orvactl.h"
+#include "SettingsReport.h"
+#include "TextTable.h"
+#include "common_src/platform/Path.h"
+#include "settings/Presets.h"
+#include "settings/SettingsPaths.h"
+
+namespace Orva::Orvactl {
+namespace {
+
+struct Folders {
+    std::wstring install;
+    std::wstring user;
+};
+
+// Accepts "--name VALUE" and "--name=VALUE".
+std::optional<Folders> ParseFolders(std::span<const std::wstring> args, ITextSink& err,
+                                    int& exitCode) {
+    Folders folders;
+    for (size_t at = 0; at < args.size(); ++at) {
+        std::wstring name = args[at];
+        std::optional<std::wstring> value;
+        if (const size_t equals = name.find(L'='); equals != std::wstring::npos) {
+            value = name.substr(equals + 1);
+            name.resize(equals);
+        } else if (at + 1 < args.size()) {
+            value = args[++at];
+        }
+        std::wstring* target = name == L"--install-dir" ? &folders.install
+                               : name == L"--user-dir"  ? &folders.user
+                                                        : nullptr;
+        if (target == nullptr) {
+            exitCode = ReportUsageError(err, L"unknown option for 'settings': " + name);
+            return std::nullopt;
+        }
+        if (!value || value->empty()) {
+            exitCode = ReportUsageError(err, name + L" needs a folder");
+            return std::nullopt;
+        }
+        *target = *value;
+    }
+    if (folders.install.empty() || folders.user.empty()) {
+        exitCode = ReportUsageError(err, L"'settings' needs --install-dir DIR and --user-dir DIR");
+        return std::nullopt;
+    }
+    return folders;
+}
+
+}  // namespace
+
+int RunSettingsCommand(std::span<const std::wstring> args, ITextSink& out, ITextSink& err,
+                       ZelCommon::Storage::IProfileApi& api) {
+    int exitCode = kExitOk;
+    const std::optional<Folders> folders = ParseFolders(args, err, exitCode);
+    if (!folders) {
+        return exitCode;
+    }
+    if (const auto problem = WhyNotFolder(folders->install)) {
+        return ReportFailure(err, L"installation folder " + *problem);
+    }
+    const std::wstring installFile = Settings::InstallFileIn(folders->install);
+    if (ZelCommon::Path::FileExists(installFile) || ZelCommon::Path::FolderExists(installFile)) {
+        if (const auto problem = WhyNotReadableFile(installFile)) {
+            return ReportFailure(err, *problem);
+        }
+    } else {
+        err.Write(L"orvactl: note: " + installFile + L" does not exist; no presets apply\n");
+    }
+
+    if (!ZelCommon::Path::FolderExists(folders->user) &&
+        !ZelCommon::Path::CreateFolderWithParents(folders->user)) {
+        return ReportFailure(err, L"user folder " + folders->user + L": cannot be created");
+    }
+    if (const auto problem = WhyNotFolder(folders->user)) {
+        return ReportFailure(err, L"user folder " + *problem);
+    }
+    const std::wstring userFile = Settings::UserFileIn(folders->user);
+    if (const auto problem = WhyNotWritableFile(userFile)) {
+        return ReportFailure(err, *problem);
+    }
+
+    Settings::SettingsStore store(api, Settings::SettingsFiles{installFile, userFile, L"", false});
+    Settings::ApplyPresets(store);
+
+    std::vector<std::vector<std::wstring>> table{{L"SECTION", L"KEY", L"VALUE", L"SOURCE"}};
+    for (SettingRow& row : DescribeUserSettings(store)) {
+        table.push_back({std::move(row.section), std::move(row.key), std::move(row.value),
+                         std::wstring(SourceName(row.source))});
+    }
+    out.Write(FormatTable(table));
+    return kExitOk;
+}
+
+}  // namespace Orva::Orvactl
