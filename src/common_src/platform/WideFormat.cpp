@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <limits>
 
 #include "common_src/platform/TextCodec.h"
 
@@ -191,6 +193,55 @@ void WidenExponent(char* text, size_t& length, size_t capacity) {
     length += add;
 }
 
+// Whether `magnitude` lies exactly halfway between two values with `position` decimals
+// (negative: rounding inside the integer part). That holds when magnitude * 10^position * 2 is an
+// odd integer, which the binary mantissa and exponent answer exactly.
+bool IsExactTie(double magnitude, int position) {
+    if (magnitude == 0.0 || position > 1100 || position < -22) {
+        return false;
+    }
+    int exponent = 0;
+    const double fraction = std::frexp(magnitude, &exponent);
+    auto mantissa = static_cast<uint64_t>(std::ldexp(fraction, 53));
+    int lowBit = exponent - 53;
+    while ((mantissa & 1) == 0) {
+        mantissa >>= 1;
+        ++lowBit;
+    }
+    if (lowBit != -(position + 1)) {
+        return false;
+    }
+    uint64_t fives = 1;
+    for (int i = position; i < 0; ++i) {
+        fives *= 5;
+    }
+    return mantissa % fives == 0;
+}
+
+int DecimalExponent(double magnitude) {
+    char text[40];
+    std::snprintf(text, sizeof(text), "%.16e", magnitude);
+    const char* e = std::strchr(text, 'e');
+    return e == nullptr ? 0 : std::atoi(e + 1);
+}
+
+// The Windows runtime rounds an exact tie away from zero where glibc rounds it to even; nudging
+// the value a hair up makes glibc pick the same digits.
+double RoundTiesAway(double magnitude, int precision, char conversion) {
+    if (magnitude == 0.0) {
+        return magnitude;
+    }
+    int position = precision;
+    if (conversion == 'e' || conversion == 'E') {
+        position = precision - DecimalExponent(magnitude);
+    } else if (conversion == 'g' || conversion == 'G') {
+        position = std::max(precision, 1) - 1 - DecimalExponent(magnitude);
+    }
+    return IsExactTie(magnitude, position)
+               ? std::nextafter(magnitude, std::numeric_limits<double>::infinity())
+               : magnitude;
+}
+
 void EmitDouble(std::wstring& out, const Spec& spec, wchar_t conversion, double value) {
     const bool negative = std::signbit(value);
     const double magnitude = std::fabs(value);
@@ -217,7 +268,8 @@ void EmitDouble(std::wstring& out, const Spec& spec, wchar_t conversion, double 
         // The format is built from a fixed set of letters above.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
-        const int written = std::snprintf(buffer, sizeof(buffer), format, precision, magnitude);
+        const int written = std::snprintf(buffer, sizeof(buffer), format, precision,
+                                          RoundTiesAway(magnitude, precision, narrowConversion));
 #pragma GCC diagnostic pop
         if (written < 0) {
             return;

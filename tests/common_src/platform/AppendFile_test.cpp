@@ -1,0 +1,117 @@
+#include "common_src/platform/AppendFile.h"
+#include "common_src/platform/TextCodec.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+using ZelCommon::Platform::AppendFile;
+
+class AppendFileTest : public ::testing::Test {
+protected:
+    AppendFileTest() {
+        static std::atomic<int> counter{0};
+        m_folder = fs::temp_directory_path() /
+                   ("orva_appendfile_" +
+                    std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "_" +
+                    std::to_string(counter++));
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+    }
+    ~AppendFileTest() override {
+        std::error_code ignored;
+        fs::remove_all(m_folder, ignored);
+    }
+
+    std::string Read(const fs::path& path) {
+        std::error_code error;
+        const auto size = fs::file_size(path, error);
+        if (error) {
+            return "<missing>";
+        }
+        std::string bytes(static_cast<size_t>(size), '\0');
+#ifdef _WIN32
+        std::FILE* file = _wfopen(path.wstring().c_str(), L"rb");
+#else
+        std::FILE* file = std::fopen(path.string().c_str(), "rb");
+#endif
+        if (file == nullptr) {
+            return "<unreadable>";
+        }
+        bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
+        std::fclose(file);
+        return bytes;
+    }
+
+    fs::path m_folder;
+};
+
+TEST_F(AppendFileTest, Open_CreatesAndAppendsAcrossOpenings) {
+    const fs::path path = m_folder / "log.txt";
+    {
+        AppendFile file = AppendFile::Open(path.wstring());
+        ASSERT_TRUE(file.IsOpen());
+        EXPECT_TRUE(file.Write("abc"));
+        EXPECT_EQ(Read(path), "abc");
+    }
+    AppendFile again = AppendFile::Open(path.wstring());
+    ASSERT_TRUE(again.IsOpen());
+    EXPECT_TRUE(again.Write("def"));
+    EXPECT_TRUE(again.Write(""));
+    EXPECT_EQ(Read(path), "abcdef");
+}
+
+TEST_F(AppendFileTest, WideFileName_IsHonoured) {
+    const std::wstring name = L"caf\u00E9 \u65E5\u672C.log";
+#ifdef _WIN32
+    const fs::path path = m_folder / name;
+#else
+    const fs::path path = m_folder / ZelCommon::Text::WideToUtf8(name);
+#endif
+    AppendFile file = AppendFile::Open(m_folder.wstring() + L"/" + name);
+    ASSERT_TRUE(file.IsOpen());
+    file.Write("x");
+    EXPECT_TRUE(fs::exists(path));
+    EXPECT_EQ(Read(path), "x");
+}
+
+TEST_F(AppendFileTest, MissingFolder_LeavesItUnopened) {
+    AppendFile file = AppendFile::Open((m_folder / "none" / "log.txt").wstring());
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_FALSE(file.Write("x"));
+    EXPECT_FALSE(fs::exists(m_folder / "none"));
+}
+
+TEST_F(AppendFileTest, MoveAndClose_TransferAndReleaseTheFile) {
+    const fs::path path = m_folder / "moved.txt";
+    AppendFile first = AppendFile::Open(path.wstring());
+    AppendFile second = std::move(first);
+    EXPECT_FALSE(first.IsOpen());  // NOLINT(bugprone-use-after-move)
+    ASSERT_TRUE(second.IsOpen());
+    second.Write("1");
+    second.Close();
+    EXPECT_FALSE(second.IsOpen());
+    EXPECT_FALSE(second.Write("2"));
+    EXPECT_EQ(Read(path), "1");
+    // Closed files can be removed even on Windows.
+    EXPECT_TRUE(fs::remove(path));
+}
+
+TEST_F(AppendFileTest, TextMode_LineBreaksFollowThePlatform) {
+    const fs::path path = m_folder / "lines.txt";
+    AppendFile file = AppendFile::Open(path.wstring());
+    file.Write("a\nb\n");
+#ifdef _WIN32
+    EXPECT_EQ(Read(path), "a\r\nb\r\n");
+#else
+    EXPECT_EQ(Read(path), "a\nb\n");
+#endif
+}
+
+}  // namespace
