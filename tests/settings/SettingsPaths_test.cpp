@@ -1,0 +1,128 @@
+#include "settings/SettingsPaths.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "TempFolder.h"
+#include "common_src/ZelCommon/MemoryRegistry.h"
+#include "common_src/ZelCommon/Registry.h"
+#include "common_src/fakes/FakeProcessContext.h"
+#include "common_src/platform/Path.h"
+
+namespace Orva::Settings {
+namespace {
+
+using ZelCommon::Path::kSeparator;
+using ZelCommon::Storage::MemoryRegistry;
+using ZelCommon::Storage::RegRoot;
+
+std::wstring Native(std::wstring path) {
+    for (wchar_t& c : path) {
+        if (c == L'/' || c == L'\\') {
+            c = kSeparator;
+        }
+    }
+    return path;
+}
+
+void SetIdentityValue(MemoryRegistry& registry, const std::wstring& name,
+                      const std::wstring& value) {
+    ZelCommon::Storage::Registry key(registry);
+    key.Create(RegRoot::CurrentUser, L"Identities", 0);
+    key.SetString(name, value);
+}
+
+TEST(IdentityName, NoIdentitiesKey_IsDefault) {
+    MemoryRegistry registry;
+    EXPECT_EQ(IdentityName(registry), L"Default");
+    EXPECT_EQ(registry.OpenHandleCount(), 0u);
+}
+
+TEST(IdentityName, LastUserId_WinsOverDefaultUserId) {
+    MemoryRegistry registry;
+    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
+    SetIdentityValue(registry, L"Last User ID", L"{LAST}");
+    EXPECT_EQ(IdentityName(registry), L"{LAST}");
+    EXPECT_EQ(registry.OpenHandleCount(), 0u);
+}
+
+TEST(IdentityName, MissingLastUserId_FallsBackToDefaultUserId) {
+    MemoryRegistry registry;
+    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
+    EXPECT_EQ(IdentityName(registry), L"{DEFAULT}");
+}
+
+TEST(IdentityName, EmptyLastUserId_FallsBackToDefaultUserId) {
+    MemoryRegistry registry;
+    SetIdentityValue(registry, L"Last User ID", L"");
+    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
+    EXPECT_EQ(IdentityName(registry), L"{DEFAULT}");
+}
+
+TEST(IdentityName, BothEmpty_IsDefault) {
+    MemoryRegistry registry;
+    SetIdentityValue(registry, L"Last User ID", L"");
+    SetIdentityValue(registry, L"Default User ID", L"");
+    EXPECT_EQ(IdentityName(registry), L"Default");
+}
+
+TEST(IdentityName, NonStringValue_CountsAsMissing) {
+    MemoryRegistry registry;
+    ZelCommon::Storage::Registry key(registry);
+    key.Create(RegRoot::CurrentUser, L"Identities", 0);
+    key.SetDword(L"Last User ID", 7);
+    key.Close(false);
+    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
+    EXPECT_EQ(IdentityName(registry), L"{DEFAULT}");
+}
+
+TEST(MakeSettingsPaths, BuildsEveryPathFromTheThreeFacts) {
+    const SettingsPaths paths =
+        MakeSettingsPaths(Native(L"C:/Addin/"), Native(L"C:/ProgramData"), L"{ID}");
+    EXPECT_EQ(paths.addinFolder, Native(L"C:/Addin/"));
+    EXPECT_EQ(paths.installFile, Native(L"C:/Addin/ORVA_WLM.ini"));
+    EXPECT_EQ(paths.dataRoot, Native(L"C:/ProgramData/Halvion/WLM/"));
+    EXPECT_EQ(paths.userFolder, Native(L"C:/ProgramData/Halvion/WLM/Users/{ID}/"));
+    EXPECT_EQ(paths.userFile, Native(L"C:/ProgramData/Halvion/WLM/Users/{ID}/ORVA_WLM.ini"));
+    EXPECT_EQ(paths.logFolder, Native(L"C:/ProgramData/Halvion/WLM/Users/{ID}/log/"));
+    EXPECT_EQ(paths.versionFile, Native(L"C:/ProgramData/ORVA_common/ORVA_version.ini"));
+}
+
+TEST(AddinFolderOf, KeepsTheFinalSeparator) {
+    EXPECT_EQ(AddinFolderOf(Native(L"C:/Program Files/Orva/ORVA_WLMA.dll")),
+              Native(L"C:/Program Files/Orva/"));
+}
+
+TEST(ComputeSettingsPaths, NoIdentity_UsesTheDefaultUserFolderAndCreatesIt) {
+    Testing::TempFolder temp;
+    ZelCommon::Fakes::FakeProcessContext process;
+    process.SetModuleFilePath(temp.File(L"ORVA_WLMA.dll"));
+    process.SetCommonAppDataFolder(temp.Folder(L"data"));
+    MemoryRegistry registry;
+
+    const SettingsPaths paths = ComputeSettingsPaths(process, registry);
+
+    EXPECT_EQ(paths.addinFolder, temp.Path());
+    EXPECT_EQ(paths.userFolder, temp.Path() + Native(L"data/Halvion/WLM/Users/Default/"));
+    EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.userFolder));
+    EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.dataRoot));
+}
+
+TEST(ComputeSettingsPaths, LastUserId_NamesTheUserFolder) {
+    Testing::TempFolder temp;
+    ZelCommon::Fakes::FakeProcessContext process;
+    process.SetModuleFilePath(temp.File(L"ORVA_WLMA.dll"));
+    process.SetCommonAppDataFolder(temp.Path());
+    MemoryRegistry registry;
+    SetIdentityValue(registry, L"Last User ID", L"{8E4C}");
+
+    const SettingsPaths paths = ComputeSettingsPaths(process, registry);
+
+    EXPECT_EQ(paths.identity, L"{8E4C}");
+    EXPECT_EQ(paths.userFile, temp.Path() + Native(L"Halvion/WLM/Users/{8E4C}/ORVA_WLM.ini"));
+    EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.userFolder));
+}
+
+}  // namespace
+}  // namespace Orva::Settings
