@@ -156,7 +156,8 @@ std::string SpecialDigits(double value, int precision, char conversion) {
     const bool general = conversion == 'g' || conversion == 'G';
     size_t keep = 0;  // characters kept after the leading '1'
     if (general) {
-        const size_t significant = precision == 0 ? 1 : static_cast<size_t>(precision);
+        // Unlike finite values, a zero precision shows the whole text here.
+        const size_t significant = precision == 0 ? all.size() : static_cast<size_t>(precision);
         keep = std::min(significant, all.size()) - 1;
     } else {
         keep = static_cast<size_t>(precision);

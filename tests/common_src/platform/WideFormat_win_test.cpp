@@ -87,9 +87,10 @@ TEST(WideFormatRuntime, FloatingConversions_SameAsSystemRuntime) {
     const double values[] = {0.0,      -0.0,    1.5,    2.5,      0.125,    2.675,
                              -3.14159, 1e20,    1e-5,   1e300,    123456.0, 0.35,
                              9.5,      1.0 / 3, 1e-300, 100000.0, INFINITY, -INFINITY};
-    const wchar_t* formats[] = {L"%f",    L"%e",   L"%E",   L"%g",       L"%G",     L"%.0f",
-                                L"%.1f",  L"%.2f", L"%.0e", L"%.3e",     L"%.0g",   L"%.2g",
-                                L"%#.0f", L"%#g",  L"%+e",  L"%012.3f|", L"%-12g|", L"%10.4e|"};
+    const wchar_t* formats[] = {L"%f",   L"%e",   L"%E",       L"%g",     L"%G",
+                                L"%.0f", L"%.1f", L"%.2f",     L"%.0e",   L"%.3e",
+                                L"%.0g", L"%.1g", L"%.2g",     L"%.5g",   L"%#.0f",
+                                L"%#g",  L"%+e",  L"%012.3f|", L"%-12g|", L"%10.4e|"};
     for (const wchar_t* format : formats) {
         for (const double value : values) {
             EXPECT_AS_RUNTIME(format, value);
