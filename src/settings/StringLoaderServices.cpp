@@ -1,0 +1,17 @@
+#include "settings/StringLoaderServices.h"
+
+#include "settings/OsVersion.h"
+
+namespace Orva::Settings {
+
+StringLoaderServices SystemStringLoaderServices() {
+    return StringLoaderServices{ZelCommon::Storage::SystemProfileApi(),
+                                ZelCommon::Storage::SystemRegistryApi(),
+                                ZelCommon::Platform::SystemLocale(),
+                                ZelCommon::Platform::SystemProcessContext(),
+                                ZelCommon::Library::TheLog(),
+                                CComUtilSet::IsWindows64(),
+                                DefaultInstallFolder()};
+}
+
+}  // namespace Orva::Settings
