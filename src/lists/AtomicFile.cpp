@@ -1,0 +1,71 @@
+#include "lists/AtomicFile.h"
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include "common_src/platform/WideFormat.h"
+
+namespace Orva::Lists {
+namespace {
+
+// Unique among this process's saves; the clock part keeps two processes saving the same list
+// (the add-in and the admin tool) from sharing a temporary name.
+std::wstring TemporaryNameBeside(const std::wstring& path) {
+    static std::atomic<unsigned> counter{0};
+    const auto ticks =
+        static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+    return path + ZelCommon::Text::Format(L".%u.%llx.tmp", counter.fetch_add(1), ticks);
+}
+
+// Windows refuses to replace a file that a reader (the agent) holds open without delete
+// sharing, so a rename that fails is tried again for a moment before the save gives up.
+bool RenameWithRetries(const std::wstring& from, const std::wstring& to) {
+    constexpr int kAttempts = 25;
+    for (int attempt = 1;; ++attempt) {
+        if (FileSystem::RenameReplacing(from, to)) {
+            return true;
+        }
+        if (attempt == kAttempts) {
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(4));
+    }
+}
+
+}  // namespace
+
+std::optional<std::string> ReadWholeFile(const std::wstring& path) {
+    const FileSystem::FilePtr file = FileSystem::OpenFile(path, L"rb");
+    if (!file) {
+        return std::nullopt;
+    }
+    std::string bytes;
+    char chunk[64 * 1024];
+    size_t got = 0;
+    while ((got = std::fread(chunk, 1, sizeof chunk, file.get())) > 0) {
+        bytes.append(chunk, got);
+    }
+    if (std::ferror(file.get()) != 0) {
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+bool ReplaceFileContents(const std::wstring& path, std::string_view bytes) {
+    const std::wstring temporary = TemporaryNameBeside(path);
+    FileSystem::FilePtr file = FileSystem::OpenFile(temporary, L"wb");
+    if (!file) {
+        return false;
+    }
+    bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    // fclose reports the errors of the last buffered write (a full disk shows up here).
+    written = std::fclose(file.release()) == 0 && written;
+    if (!written || !RenameWithRetries(temporary, path)) {
+        FileSystem::RemoveFile(temporary);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace Orva::Lists

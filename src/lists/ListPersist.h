@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "lists/ListKinds.h"
+#include "lists/SenderEntry.h"
+
+namespace Orva::Lists {
+
+// How one field of an entry is read from a record and written into one. A shared instance of
+// each attribute class stands for its field while a list is read or written.
+template <class Kind>
+class IListPersist {
+public:
+    virtual ~IListPersist() = default;
+    // Takes the field's value out of a record body into `entry`.
+    virtual void Parse(std::wstring_view record, SenderEntry& entry) const = 0;
+    // Appends the field as tagged text to `record`.
+    virtual void Format(const SenderEntry& entry, std::wstring& record) const = 0;
+};
+
+using IBListPersist = IListPersist<BlockedList>;
+using IWListPersist = IListPersist<ApprovedList>;
+
+template <class Kind>
+class CListSenderName final : public IListPersist<Kind> {
+public:
+    void Parse(std::wstring_view record, SenderEntry& entry) const override;
+    void Format(const SenderEntry& entry, std::wstring& record) const override;
+    static const CListSenderName& Instance();
+};
+
+// The address's parse also collapses runs of "*".
+template <class Kind>
+class CListSenderAddr final : public IListPersist<Kind> {
+public:
+    void Parse(std::wstring_view record, SenderEntry& entry) const override;
+    void Format(const SenderEntry& entry, std::wstring& record) const override;
+    static const CListSenderAddr& Instance();
+};
+
+using CBListSenderName = CListSenderName<BlockedList>;
+using CBListSenderAddr = CListSenderAddr<BlockedList>;
+using CWListSenderName = CListSenderName<ApprovedList>;
+using CWListSenderAddr = CListSenderAddr<ApprovedList>;
+
+extern template class CListSenderName<BlockedList>;
+extern template class CListSenderAddr<BlockedList>;
+extern template class CListSenderName<ApprovedList>;
+extern template class CListSenderAddr<ApprovedList>;
+
+}  // namespace Orva::Lists

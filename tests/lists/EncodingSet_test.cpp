@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+#include "ListTestFiles.h"
+#include "lists/EncodingSet.h"
+
+namespace Orva::Lists {
+namespace {
+
+using Testing::kHeader;
+using Testing::kMark;
+
+EncodingGroup Group(bool blocked, std::vector<int32_t> codePages) {
+    return EncodingGroup{blocked, std::move(codePages)};
+}
+
+TEST(CEncodingSet, Save_WritesHeaderValueAndGroupsInNameOrder) {
+    Testing::ListTempFolder folder;
+    const std::wstring path = folder.File(L"BlockEncodings.dat");
+    CEncodingSet set;
+    set.SetValue(-3);
+    set.AddGroup(L"Korean", Group(false, {949, 51949}));
+    set.AddGroup(L"Chinese Simplified", Group(true, {936, 20936, 52936}));
+    set.AddGroup(L"Empty", Group(true, {}));
+    set.Save(path);
+    EXPECT_EQ(
+        std::string(kMark) + kHeader +
+            "\n-3\nChinese Simplified\t1\t936\t20936\t52936\nEmpty\t1\nKorean\t0\t949\t51949\n",
+        Testing::ReadBytes(path));
+}
+
+TEST(CEncodingSet, Load_ReadsWhatSaveWrote) {
+    Testing::ListTempFolder folder;
+    const std::wstring path = folder.File(L"BlockEncodings.dat");
+    CEncodingSet saved;
+    saved.SetValue(7);
+    saved.AddGroup(L"Cyrillic \u0416", Group(true, {866, 1251, -1, 2147483647}));
+    saved.AddGroup(L"Thai", Group(false, {874}));
+    saved.Save(path);
+    CEncodingSet loaded;
+    loaded.Load(path);
+    EXPECT_EQ(7, loaded.Value());
+    EXPECT_EQ(saved.Groups(), loaded.Groups());
+}
+
+TEST(CEncodingSet, Load_MissingFileGivesEmptySet) {
+    Testing::ListTempFolder folder;
+    CEncodingSet set;
+    set.SetValue(4);
+    set.AddGroup(L"Thai", Group(true, {874}));
+    set.Load(folder.File(L"none.dat"));
+    EXPECT_EQ(0, set.Value());
+    EXPECT_TRUE(set.Groups().empty());
+}
+
+TEST(CEncodingSet, Parse_AnyFirstLineStillLoadsFromLineThree) {
+    CEncodingSet set;
+    set.Parse(L"whatever is here\n12\nThai\t1\t874\n");
+    EXPECT_EQ(12, set.Value());
+    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"Thai", Group(true, {874})}}), set.Groups());
+}
+
+TEST(CEncodingSet, Parse_CrLfAndMarkReadLikeLf) {
+    Testing::ListTempFolder folder;
+    const std::wstring path = folder.File(L"BlockEncodings.dat");
+    Testing::WriteBytes(path, std::string(kMark) + kHeader + "\r\n5\r\nThai\t1\t874\r\nA\t0\r\n");
+    CEncodingSet set;
+    set.Load(path);
+    EXPECT_EQ(5, set.Value());
+    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"A", Group(false, {})},
+                                                     {L"Thai", Group(true, {874})}}),
+              set.Groups());
+}
+
+TEST(CEncodingSet, Parse_RepeatedNameKeepsFirst) {
+    CEncodingSet set;
+    set.Parse(L"h\n0\nThai\t1\t874\nThai\t0\t1\n");
+    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"Thai", Group(true, {874})}}), set.Groups());
+}
+
+struct DamagedCase {
+    const char* label;
+    std::wstring line;
+    std::wstring name;  // empty: the line adds nothing
+    EncodingGroup group;
+};
+
+void PrintTo(const DamagedCase& value, std::ostream* out) {
+    *out << value.label;
+}
+
+class EncodingDamagedLineTest : public ::testing::TestWithParam<DamagedCase> {};
+
+// The damaged line sits between two good ones, which must survive it.
+TEST_P(EncodingDamagedLineTest, Parse_KeepsWhatMakesSenseAndTheOtherLines) {
+    CEncodingSet set;
+    set.Parse(L"h\n9\nAlpha\t1\t1\n" + GetParam().line + L"\nZulu\t0\t2\n");
+    std::map<std::wstring, EncodingGroup> expected{{L"Alpha", Group(true, {1})},
+                                                   {L"Zulu", Group(false, {2})}};
+    if (!GetParam().name.empty()) {
+        expected.emplace(GetParam().name, GetParam().group);
+    }
+    EXPECT_EQ(9, set.Value());
+    EXPECT_EQ(expected, set.Groups());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, EncodingDamagedLineTest,
+    ::testing::Values(
+        DamagedCase{"NameOnly", L"Mid", L"Mid", Group(false, {})},
+        DamagedCase{"NonNumericFlag", L"Mid\tyes\t5", L"Mid", Group(false, {5})},
+        DamagedCase{"FlagTwo", L"Mid\t2\t5", L"Mid", Group(true, {5})},
+        DamagedCase{"NonNumericCodePage", L"Mid\t1\tabc\t5", L"Mid", Group(true, {5})},
+        DamagedCase{"NumberWithTail", L"Mid\t1\t12ab\t 7", L"Mid", Group(true, {12, 7})},
+        DamagedCase{"EmptyFields", L"Mid\t1\t\t5\t", L"Mid", Group(true, {5})},
+        DamagedCase{"Overflow", L"Mid\t1\t99999999999\t-99999999999", L"Mid",
+                    Group(true, {2147483647, -2147483647 - 1})},
+        DamagedCase{"SignOnly", L"Mid\t1\t-\t+", L"Mid", Group(true, {})},
+        DamagedCase{"EmptyName", L"\t1\t5", L"", EncodingGroup{}},
+        DamagedCase{"Blank", L"", L"", EncodingGroup{}},
+        DamagedCase{"RepeatOfAlpha", L"Alpha\t0\t3", L"", EncodingGroup{}}),
+    [](const auto& test) { return std::string(test.param.label); });
+
+TEST(CEncodingSet, Parse_NonNumericValueReadsAsZeroAndNumberPrefixIsKept) {
+    CEncodingSet set;
+    set.Parse(L"h\nabc\n");
+    EXPECT_EQ(0, set.Value());
+    set.Parse(L"h\n  42x\n");
+    EXPECT_EQ(42, set.Value());
+    set.Parse(L"h\n");
+    EXPECT_EQ(0, set.Value());
+}
+
+TEST(CEncodingSet, AddGroup_RefusesNamesThatWouldBreakTheFile) {
+    CEncodingSet set;
+    EXPECT_FALSE(set.AddGroup(L"", Group(true, {})));
+    EXPECT_FALSE(set.AddGroup(L"a\tb", Group(true, {})));
+    EXPECT_FALSE(set.AddGroup(L"a\nb", Group(true, {})));
+    EXPECT_TRUE(set.AddGroup(L"a b", Group(true, {})));
+    EXPECT_FALSE(set.AddGroup(L"a b", Group(false, {})));
+    EXPECT_TRUE(set.Groups().at(L"a b").blocked);
+}
+
+TEST(CEncodingSet, SetBlocked_ChangesOnlyAnExistingGroup) {
+    CEncodingSet set;
+    set.AddGroup(L"Thai", Group(false, {874}));
+    EXPECT_TRUE(set.SetBlocked(L"Thai", true));
+    EXPECT_FALSE(set.SetBlocked(L"thai", true));
+    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"Thai", Group(true, {874})}}), set.Groups());
+}
+
+}  // namespace
+}  // namespace Orva::Lists

@@ -1,0 +1,45 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "ListTestFiles.h"
+#include "lists/SenderListSet.h"
+#include "settings/DebugLog.h"
+
+namespace Orva::Lists {
+namespace {
+
+// The log, once on, stays on for the process, so this runs only where each test has its own.
+size_t Occurrences(const std::string& text, const std::string& part) {
+    size_t count = 0;
+    for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+std::string ReadWholeLogFolder(const std::wstring& folder) {
+    std::string text;
+    for (const auto& file : std::filesystem::directory_iterator(std::filesystem::path(folder))) {
+        text += Testing::ReadBytes(file.path().wstring());
+    }
+    return text;
+}
+
+TEST(ListLog, FindAndAdd_WriteTheirLinesUnderTheBlockedListsName) {
+    Testing::ListTempFolder folder;
+    ZelCommon::Library::TheLog().OpenLog(folder.File(L"lists.log"));
+    ASSERT_TRUE(ZelCommon::Library::TheLog().IsLogOn());
+    CWListSet set;
+    set.Add(L"Ann@b.com", {L"A", L"Ann@b.com"});
+    set.Find(L"Ann@b.com");
+    set.Find(L"bob@b.com");
+    const std::string log = ReadWholeLogFolder(folder.Path());
+    EXPECT_EQ(1u, Occurrences(log, "@@@ CBListSet::Add Ann@b.com, at: BlackList line: "));
+    EXPECT_EQ(2u, Occurrences(log, "@@@ CBListSet::Find Ann@b.com, at: BlackList line: "));
+    EXPECT_EQ(1u, Occurrences(log, "@@@ CBListSet::Find bob@b.com, at: BlackList line: "));
+}
+
+}  // namespace
+}  // namespace Orva::Lists

@@ -1,0 +1,276 @@
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+#include "ListTestFiles.h"
+#include "lists/SenderListSet.h"
+
+namespace Orva::Lists {
+namespace {
+
+using Testing::kHeader;
+using Testing::kMark;
+using Testing::ReadBytes;
+using Testing::WriteBytes;
+
+std::string BlockedRecord(const std::string& name, const std::string& address) {
+    return "<BL_REC><SN_ATTR>" + name + "<\\SN_ATTR><SA_ATTR>" + address + "<\\SA_ATTR><\\BL_REC>";
+}
+
+class SenderListFileTest : public ::testing::Test {
+protected:
+    std::vector<SenderEntry> LoadBlocked(const std::string& bytes) {
+        WriteBytes(m_path, bytes);
+        CBListSet set;
+        set.Load(m_path);
+        return set.Entries();
+    }
+
+    Testing::ListTempFolder m_folder;
+    std::wstring m_path = m_folder.File(L"BlackList.dat");
+};
+
+TEST_F(SenderListFileTest, Save_WritesMarkHeaderAndRecordsInKeyOrderWithLineFeeds) {
+    CBListSet set;
+    set.Add(L"Zed@b.com", {L"Zed", L"Zed@b.com"});
+    set.Add(L"al@b.com", {L"", L"al@b.com"});
+    EXPECT_EQ(1, set.Save(m_path));
+    EXPECT_EQ(std::string(kMark) + kHeader + "\n" + BlockedRecord("", "al@b.com") + "\n" +
+                  BlockedRecord("Zed", "Zed@b.com") + "\n",
+              ReadBytes(m_path));
+}
+
+TEST_F(SenderListFileTest, Save_ApprovedListUsesItsOwnRecordTags) {
+    CWListSet set;
+    set.Add(L"a@b.com", {L"A", L"a@b.com"});
+    const std::wstring path = m_folder.File(L"WhiteList.dat");
+    set.Save(path);
+    EXPECT_EQ(std::string(kMark) + kHeader +
+                  "\n<WL_REC><SN_ATTR>A<\\SN_ATTR><SA_ATTR>a@b.com<\\SA_ATTR><\\WL_REC>\n",
+              ReadBytes(path));
+}
+
+TEST_F(SenderListFileTest, Save_EmptyListWritesHeaderAlone) {
+    CBListSet set;
+    set.Save(m_path);
+    EXPECT_EQ(std::string(kMark) + kHeader + "\n", ReadBytes(m_path));
+}
+
+TEST_F(SenderListFileTest, Save_WritesNonAsciiNamesAsUtf8) {
+    CBListSet set;
+    set.Add(L"a@b.com", {L"J\u00fcrgen \u4e2d", L"a@b.com"});
+    set.Save(m_path);
+    EXPECT_EQ(std::string(kMark) + kHeader + "\n" +
+                  BlockedRecord("J\xC3\xBCrgen \xE4\xB8\xAD", "a@b.com") + "\n",
+              ReadBytes(m_path));
+}
+
+TEST_F(SenderListFileTest, Save_UnwritableLocationReportsSuccessAndCreatesNothing) {
+    CBListSet set;
+    set.Add(L"a@b.com", {L"", L"a@b.com"});
+    const std::wstring path = m_folder.File(L"missing-folder") + L"/BlackList.dat";
+    EXPECT_EQ(1, set.Save(path));
+    EXPECT_EQ(0u, m_folder.FileCount());
+}
+
+TEST_F(SenderListFileTest, Save_ReplacesOldFileAndLeavesNoTemporaryFile) {
+    WriteBytes(m_path, std::string(kHeader) + "\n" + BlockedRecord("", "old@b.com") + "\n");
+    CBListSet set;
+    set.Add(L"new@b.com", {L"", L"new@b.com"});
+    set.Save(m_path);
+    EXPECT_EQ(std::string(kMark) + kHeader + "\n" + BlockedRecord("", "new@b.com") + "\n",
+              ReadBytes(m_path));
+    EXPECT_EQ(1u, m_folder.FileCount());
+}
+
+TEST_F(SenderListFileTest, Save_TargetThatCannotBeReplacedLeavesNoTemporaryFile) {
+    std::filesystem::create_directories(std::filesystem::path(m_path) / "inside");
+    CBListSet set;
+    set.Add(L"new@b.com", {L"", L"new@b.com"});
+    EXPECT_EQ(1, set.Save(m_path));
+    EXPECT_EQ(1u, m_folder.FileCount());
+    EXPECT_TRUE(std::filesystem::is_directory(std::filesystem::path(m_path)));
+}
+
+TEST_F(SenderListFileTest, Load_ReadsWhatSaveWrote) {
+    CBListSet saved;
+    saved.Add(L"B@x.org", {L"Bee", L"B@x.org"});
+    saved.Add(L"*@spam.com", {L"", L"*@spam.com"});
+    saved.Save(m_path);
+    CBListSet loaded;
+    loaded.Load(m_path);
+    EXPECT_EQ(saved.Entries(), loaded.Entries());
+    EXPECT_EQ(std::vector<std::wstring>{L"*@spam.com"}, loaded.WildcardKeys());
+}
+
+TEST_F(SenderListFileTest, Load_ReplacesEarlierContent) {
+    CBListSet set;
+    set.Add(L"gone@b.com", {L"", L"gone@b.com"});
+    WriteBytes(m_path, std::string(kHeader) + "\n" + BlockedRecord("", "a@b.com") + "\n");
+    set.Load(m_path);
+    EXPECT_EQ((std::vector<SenderEntry>{{L"", L"a@b.com"}}), set.Entries());
+    EXPECT_TRUE(set.WildcardKeys().empty());
+}
+
+TEST_F(SenderListFileTest, Load_MissingFileGivesEmptyList) {
+    CBListSet set;
+    set.Add(L"gone@b.com", {L"", L"gone@b.com"});
+    set.Load(m_folder.File(L"nothing.dat"));
+    EXPECT_EQ(0u, set.Count());
+}
+
+struct HeaderCase {
+    const char* label;
+    std::string firstLine;
+    bool accepted;
+};
+
+void PrintTo(const HeaderCase& value, std::ostream* out) {
+    *out << value.label;
+}
+
+class SenderListHeaderTest : public SenderListFileTest,
+                             public ::testing::WithParamInterface<HeaderCase> {};
+
+TEST_P(SenderListHeaderTest, Load_AcceptsOnlyTheFamilysHeaders) {
+    const auto entries =
+        LoadBlocked(GetParam().firstLine + "\n" + BlockedRecord("N", "a@b.com") + "\n");
+    EXPECT_EQ(GetParam().accepted ? 1u : 0u, entries.size());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Headers, SenderListHeaderTest,
+    ::testing::Values(
+        HeaderCase{"Orva", kHeader, true},
+        HeaderCase{"ZelQuillon", "; Written by ZelQuillon v1.0 (c) 2003 Halvion", true},
+        HeaderCase{"ZelAntiSpam", "; Written by ZelAnti-Spam v1.0 (c) 2003 Halvion", true},
+        HeaderCase{"WithMark", std::string(kMark) + kHeader, true},
+        HeaderCase{"ContainedInLongerLine", std::string("xx") + kHeader + " yy", true},
+        HeaderCase{"BlankFirstLine", "", false},
+        HeaderCase{"OtherProduct", "; Written by Other v1.0 (c) 2005 Halvion", false},
+        HeaderCase{"LowerCase", "; written by orva v3.5 (c) 2005 halvion", false},
+        HeaderCase{"Record", BlockedRecord("", "x@b.com"), false}),
+    [](const auto& test) { return std::string(test.param.label); });
+
+TEST_F(SenderListFileTest, Load_HeaderOnSecondLineRejectsWholeFile) {
+    EXPECT_TRUE(
+        LoadBlocked("\n" + std::string(kHeader) + "\n" + BlockedRecord("", "a@b.com") + "\n")
+            .empty());
+}
+
+TEST_F(SenderListFileTest, Load_OldHeaderLoadsAndSaveRewritesIt) {
+    LoadBlocked("; Written by ZelQuillon v1.0 (c) 2003 Halvion\n" + BlockedRecord("N", "a@b.com") +
+                "\n");
+    CBListSet set;
+    set.Load(m_path);
+    set.Save(m_path);
+    EXPECT_EQ(std::string(kMark) + kHeader + "\n" + BlockedRecord("N", "a@b.com") + "\n",
+              ReadBytes(m_path));
+}
+
+TEST_F(SenderListFileTest, Load_CrLfAndLfFilesReadTheSame) {
+    const std::string lf = std::string(kHeader) + "\n" + BlockedRecord("A  B", "a@b.com") + "\n" +
+                           BlockedRecord("C", "c@d.com") + "\n";
+    std::string crlf;
+    for (const char c : lf) {
+        crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    }
+    const auto fromLf = LoadBlocked(lf);
+    EXPECT_EQ(2u, fromLf.size());
+    EXPECT_EQ(fromLf, LoadBlocked(crlf));
+    EXPECT_EQ(fromLf, LoadBlocked(std::string(kMark) + crlf));
+}
+
+TEST_F(SenderListFileTest, Load_LastLineWithoutLineEndCounts) {
+    EXPECT_EQ(1u, LoadBlocked(std::string(kHeader) + "\n" + BlockedRecord("", "a@b.com")).size());
+}
+
+TEST_F(SenderListFileTest, Load_ApprovedFileGivesEmptyBlockedList) {
+    EXPECT_TRUE(
+        LoadBlocked(std::string(kMark) + kHeader +
+                    "\n<WL_REC><SN_ATTR>A<\\SN_ATTR><SA_ATTR>a@b.com<\\SA_ATTR><\\WL_REC>\n")
+            .empty());
+}
+
+TEST_F(SenderListFileTest, Load_DuplicateKeyKeepsFirstEntry) {
+    const auto entries = LoadBlocked(std::string(kHeader) + "\n" + BlockedRecord("1", "A@b.com") +
+                                     "\n" + BlockedRecord("2", "a@B.com") + "\n");
+    EXPECT_EQ((std::vector<SenderEntry>{{L"1", L"A@b.com"}}), entries);
+}
+
+TEST_F(SenderListFileTest, Load_StopsAtTheLimit) {
+    std::string bytes = std::string(kHeader) + "\n";
+    for (int i = 0; i < 8005; ++i) {
+        std::string address = std::to_string(i);
+        address.append("@b.com");
+        bytes.append(BlockedRecord("", address)).append("\n");
+    }
+    EXPECT_EQ(8000u, LoadBlocked(bytes).size());
+}
+
+struct LineCase {
+    const char* label;
+    std::string line;
+    std::wstring name;  // expected; an empty address means the line is skipped
+    std::wstring address;
+};
+
+void PrintTo(const LineCase& value, std::ostream* out) {
+    *out << value.label;
+}
+
+class SenderListLineTest : public SenderListFileTest,
+                           public ::testing::WithParamInterface<LineCase> {};
+
+TEST_P(SenderListLineTest, Load_TakesValuesOutByTheTagRule) {
+    const auto entries = LoadBlocked(std::string(kHeader) + "\n" + GetParam().line + "\n");
+    if (GetParam().address.empty()) {
+        EXPECT_TRUE(entries.empty());
+    } else {
+        ASSERT_EQ(1u, entries.size());
+        EXPECT_EQ(GetParam().name, entries[0].name);
+        EXPECT_EQ(GetParam().address, entries[0].address);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, SenderListLineTest,
+    ::testing::Values(
+        LineCase{"Plain", BlockedRecord("Ann", "ann@b.com"), L"Ann", L"ann@b.com"},
+        LineCase{"BlanksTrimmed", BlockedRecord(" \tAnn B ", "  ann@b.com\t"), L"Ann B",
+                 L"ann@b.com"},
+        LineCase{"ForwardSlashCloseTag",
+                 "<BL_REC><SN_ATTR>A<\\SN_ATTR><SA_ATTR>a@b.com</SA_ATTR><\\BL_REC>", L"", L""},
+        LineCase{"MissingRecordClose", "<BL_REC><SN_ATTR>A<\\SN_ATTR><SA_ATTR>a@b.com<\\SA_ATTR>",
+                 L"", L""},
+        LineCase{"MissingNameKeepsAddress", "<BL_REC><SA_ATTR>a@b.com<\\SA_ATTR><\\BL_REC>", L"",
+                 L"a@b.com"},
+        LineCase{"TextAroundRecord", "junk " + BlockedRecord("A", "a@b.com") + " junk", L"A",
+                 L"a@b.com"},
+        LineCase{"AttributesInAnyOrder",
+                 "<BL_REC><SA_ATTR>a@b.com<\\SA_ATTR><SN_ATTR>A<\\SN_ATTR><\\BL_REC>", L"A",
+                 L"a@b.com"},
+        LineCase{"StarRunsCollapsed", BlockedRecord("", "***@b.com"), L"", L"*@b.com"},
+        LineCase{"BlankAddress", BlockedRecord("A", " \t "), L"", L""},
+        LineCase{"Comment", "; a comment", L"", L""}, LineCase{"Blank", "", L"", L""},
+        LineCase{"AddressNotCheckedAsEmail", BlockedRecord("", "not an address"), L"",
+                 L"not an address"},
+        LineCase{"NameHoldingAddressTagDropsLine",
+                 "<BL_REC><SN_ATTR>x<SA_ATTR>y<\\SN_ATTR><SA_ATTR>a@b.com<\\SA_ATTR><\\BL_REC>",
+                 L"", L""},
+        LineCase{"NameHoldingOtherListsTagDropsLine", BlockedRecord("x<WL_REC>", "a@b.com"), L"",
+                 L""},
+        LineCase{"ControlCharacterDropsLine",
+                 BlockedRecord("a\x01"
+                               "b",
+                               "a@b.com"),
+                 L"", L""},
+        LineCase{"InnerCarriageReturnDropsLine", BlockedRecord("a\rb", "a@b.com"), L"", L""},
+        LineCase{"InnerTabKept", BlockedRecord("a\tb", "a@b.com"), L"a\tb", L"a@b.com"},
+        LineCase{"BadUtf8BecomesReplacement", BlockedRecord("a\xFF", "a@b.com"), L"a\uFFFD",
+                 L"a@b.com"}),
+    [](const auto& test) { return std::string(test.param.label); });
+
+}  // namespace
+}  // namespace Orva::Lists
