@@ -14,8 +14,8 @@ constexpr uint32_t kGenericAll = 0x10000000u;
 constexpr uint32_t kMaximumAllowed = 0x02000000u;
 constexpr uint32_t kKeyRead = 0x00020019u;
 constexpr uint32_t kKeyWrite = 0x00020006u;
-// Longest key name component the registry accepts, in characters.
-constexpr std::size_t kMaxKeyNameChars = 255;
+// Longest key name component the registry accepts, in characters (one more than documented).
+constexpr std::size_t kMaxKeyNameChars = 256;
 
 // Generic rights become the key rights they stand for; the view bits only steer redirection.
 uint32_t GrantedAccess(uint32_t requested) {

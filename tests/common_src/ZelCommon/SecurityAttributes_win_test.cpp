@@ -1,0 +1,190 @@
+#include "common_src/ZelCommon/SecurityAttributes.h"
+
+#include <windows.h>
+
+#include <aclapi.h>
+#include <gtest/gtest.h>
+#include <sddl.h>
+
+#include <memory>
+#include <vector>
+
+#include "common_src/ZelCommon/Registry.h"
+#include "common_src/ZelCommon/RegistryApiContract.h"
+
+namespace ZelCommon::AccessControl {
+namespace {
+
+using Storage::RegRoot;
+using Storage::Testing::RegistrySandbox;
+
+constexpr DWORD kUserRights = KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY |
+                              KEY_ENUMERATE_SUB_KEYS | KEY_NOTIFY | READ_CONTROL;
+
+struct LocalFreeDeleter {
+    void operator()(void* memory) const { LocalFree(memory); }
+};
+
+struct Entry {
+    std::vector<BYTE> sid;
+    ACCESS_MASK mask;
+    BYTE type;
+    BYTE flags;
+};
+
+struct KeySecurity {
+    SECURITY_DESCRIPTOR_CONTROL control = 0;
+    std::vector<Entry> entries;
+};
+
+KeySecurity ReadDescriptor(PSECURITY_DESCRIPTOR descriptor) {
+    KeySecurity result;
+    DWORD revision = 0;
+    EXPECT_TRUE(GetSecurityDescriptorControl(descriptor, &result.control, &revision));
+    BOOL present = FALSE;
+    BOOL defaulted = FALSE;
+    PACL dacl = nullptr;
+    EXPECT_TRUE(GetSecurityDescriptorDacl(descriptor, &present, &dacl, &defaulted));
+    if (!present || dacl == nullptr) {
+        ADD_FAILURE() << "no DACL";
+        return result;
+    }
+    for (DWORD index = 0; index < dacl->AceCount; ++index) {
+        void* raw = nullptr;
+        EXPECT_TRUE(GetAce(dacl, index, &raw));
+        const auto* ace = static_cast<const ACCESS_ALLOWED_ACE*>(raw);
+        auto* sid = reinterpret_cast<BYTE*>(const_cast<DWORD*>(&ace->SidStart));
+        result.entries.push_back(Entry{std::vector<BYTE>(sid, sid + GetLengthSid(sid)), ace->Mask,
+                                       ace->Header.AceType, ace->Header.AceFlags});
+    }
+    return result;
+}
+
+KeySecurity ReadKeySecurity(const std::wstring& path) {
+    HKEY key = nullptr;
+    EXPECT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, READ_CONTROL, &key), ERROR_SUCCESS);
+    if (key == nullptr) {
+        return {};
+    }
+    DWORD size = 0;
+    EXPECT_EQ(RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, nullptr, &size),
+              ERROR_INSUFFICIENT_BUFFER);
+    std::vector<BYTE> buffer(size);
+    EXPECT_EQ(RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, buffer.data(), &size),
+              ERROR_SUCCESS);
+    RegCloseKey(key);
+    return ReadDescriptor(buffer.data());
+}
+
+// Wine's RegCreateKeyExW drops the security attributes, so there only the descriptor itself
+// can be checked.
+bool RunningUnderWine() {
+    HMODULE ntdll = GetModuleHandleW(L"ntdll.dll");
+    return ntdll != nullptr && GetProcAddress(ntdll, "wine_get_version") != nullptr;
+}
+
+std::vector<BYTE> Sid(const wchar_t* sddlName) {
+    PSID sid = nullptr;
+    EXPECT_TRUE(ConvertStringSidToSidW(sddlName, &sid));
+    std::unique_ptr<void, LocalFreeDeleter> owner(sid);
+    const auto* bytes = static_cast<const BYTE*>(sid);
+    return std::vector<BYTE>(bytes, bytes + GetLengthSid(sid));
+}
+
+void ExpectOurEntries(const KeySecurity& security, BYTE extraFlags) {
+    ASSERT_EQ(security.entries.size(), 3u);
+    const std::vector<BYTE> expectedSids[] = {Sid(L"SY"), Sid(L"BA"), Sid(L"IU")};
+    const ACCESS_MASK expectedMasks[] = {KEY_ALL_ACCESS, KEY_ALL_ACCESS, kUserRights};
+    for (std::size_t i = 0; i < 3; ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(security.entries[i].type, ACCESS_ALLOWED_ACE_TYPE);
+        EXPECT_EQ(security.entries[i].sid, expectedSids[i]);
+        EXPECT_EQ(security.entries[i].mask, expectedMasks[i]);
+        EXPECT_EQ(security.entries[i].flags, CONTAINER_INHERIT_ACE | extraFlags);
+    }
+}
+
+TEST(SecurityAttributesWin32, Get_PointsAtProtectedDescriptorWithOurDacl) {
+    SecurityAttributes attributes;
+    const auto* sa = static_cast<const SECURITY_ATTRIBUTES*>(attributes.Get());
+    ASSERT_NE(sa, nullptr);
+    EXPECT_EQ(sa->nLength, sizeof(SECURITY_ATTRIBUTES));
+    EXPECT_FALSE(sa->bInheritHandle);
+    ASSERT_TRUE(IsValidSecurityDescriptor(sa->lpSecurityDescriptor));
+    const KeySecurity security = ReadDescriptor(sa->lpSecurityDescriptor);
+    EXPECT_TRUE(security.control & SE_DACL_PROTECTED);
+    ExpectOurEntries(security, 0);
+}
+
+TEST(SecurityAttributesWin32, UserEntry_CannotDeleteOrRewritePermissions) {
+    SecurityAttributes attributes;
+    const auto* sa = static_cast<const SECURITY_ATTRIBUTES*>(attributes.Get());
+    const KeySecurity security = ReadDescriptor(sa->lpSecurityDescriptor);
+    ASSERT_EQ(security.entries.size(), 3u);
+    const ACCESS_MASK user = security.entries[2].mask;
+    EXPECT_EQ(user & (DELETE | WRITE_DAC | WRITE_OWNER), 0u);
+    EXPECT_EQ(user & (KEY_QUERY_VALUE | KEY_SET_VALUE),
+              static_cast<ACCESS_MASK>(KEY_QUERY_VALUE | KEY_SET_VALUE));
+}
+
+TEST(SecurityAttributesWin32, BadSddl_ThrowsAccessControlException) {
+    uint32_t code = 0;
+    const bool built = ZelCommon::Exception::CatchThrown<Exception>(
+        [] { SecurityAttributes attributes(L"D:(A;;nonsense;;;XX)"); },
+        [&](const Exception& e) { code = e.ErrorCode(); });
+    EXPECT_FALSE(built);
+    EXPECT_NE(code, 0u);
+}
+
+// Puts our descriptor on a fresh key below the sandbox and returns the key's path.
+std::wstring SecureKey(const RegistrySandbox& sandbox) {
+    const std::wstring path = sandbox.Path() + L"\\Secured";
+    HKEY key = nullptr;
+    EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                              nullptr, &key, nullptr),
+              ERROR_SUCCESS);
+    SecurityAttributes attributes;
+    const auto* sa = static_cast<const SECURITY_ATTRIBUTES*>(attributes.Get());
+    EXPECT_EQ(RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, sa->lpSecurityDescriptor),
+              ERROR_SUCCESS);
+    RegCloseKey(key);
+    return path;
+}
+
+TEST(SecurityAttributesWin32, DaclSetOnKey_ReadsBackUnchanged) {
+    RegistrySandbox sandbox(Storage::SystemRegistryApi());
+    ExpectOurEntries(ReadKeySecurity(SecureKey(sandbox)), 0);
+}
+
+TEST(SecurityAttributesWin32, SubkeyOfSecuredKey_InheritsTheEntries) {
+    if (RunningUnderWine()) {
+        GTEST_SKIP() << "Wine does not inherit registry key ACLs";
+    }
+    RegistrySandbox sandbox(Storage::SystemRegistryApi());
+    const std::wstring path = SecureKey(sandbox);
+    HKEY child = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, (path + L"\\Child").c_str(), 0, nullptr, 0,
+                              KEY_READ, nullptr, &child, nullptr),
+              ERROR_SUCCESS);
+    RegCloseKey(child);
+    ExpectOurEntries(ReadKeySecurity(path + L"\\Child"), INHERITED_ACE);
+}
+
+TEST(SecurityAttributesWin32, CreatedKey_GetsOurProtectedDacl) {
+    if (RunningUnderWine()) {
+        GTEST_SKIP() << "Wine's RegCreateKeyExW ignores security attributes";
+    }
+    RegistrySandbox sandbox(Storage::SystemRegistryApi());
+    const std::wstring path = sandbox.Path() + L"\\Created";
+    Storage::Registry store;
+    store.Create(RegRoot::CurrentUser, path, 0);
+    store.SetDword(L"Probe", 1);
+    store.Close(false);
+
+    const KeySecurity security = ReadKeySecurity(path);
+    EXPECT_TRUE(security.control & SE_DACL_PROTECTED);
+    ExpectOurEntries(security, 0);
+}
+
+}  // namespace
+}  // namespace ZelCommon::AccessControl
