@@ -8,6 +8,7 @@
 #include <sstream>
 #include <string>
 
+#include "SourceRoot.h"
 #include "StringLoaderFixture.h"
 #include "common_src/platform/TextCodec.h"
 #include "settings/StringIds.h"
@@ -17,27 +18,6 @@ namespace Orva::Testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-// The checkout this test program was built from: the first folder above the working folder
-// (ctest runs the tests in the build tree) that holds both the sources and the bundle.
-fs::path SourceRoot() {
-    std::error_code error;
-    for (fs::path folder = fs::current_path(error); !folder.empty();
-         folder = folder.parent_path()) {
-        if (fs::exists(folder / "src" / "settings" / "StringIds.cpp", error) &&
-            fs::exists(folder / "res" / "Resource" / "x86" / "en-US" / "StringTable.ini", error)) {
-            return folder;
-        }
-        if (folder == folder.parent_path()) {
-            break;
-        }
-    }
-    return {};
-}
-
-fs::path BundleFolder() {
-    return SourceRoot() / "res" / "Resource" / "x86";
-}
 
 std::vector<Settings::StringTableEntry> ShippedTable(const std::wstring& localeName) {
     const fs::path file = BundleFolder() / localeName / "StringTable.ini";

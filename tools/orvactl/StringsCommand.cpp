@@ -1,0 +1,171 @@
+#include "StringsCommand.h"
+
+#include <optional>
+#include <vector>
+
+#include "CommandErrors.h"
+#include "Orvactl.h"
+#include "common_src/platform/Path.h"
+#include "common_src/platform/WideFormat.h"
+#include "settings/StringEscapes.h"
+#include "settings/StringIds.h"
+#include "settings/StringTableCheck.h"
+#include "settings/ZelResourceStringLoader.h"
+
+namespace Orva::Orvactl {
+namespace {
+
+struct StringsOptions {
+    std::wstring localeName;
+    std::wstring resourceFolder;
+    std::wstring section = std::wstring(Settings::kAddinStringSection);
+    std::optional<std::wstring> id;
+};
+
+// Accepts "--name VALUE" and "--name=VALUE"; one argument without dashes is the id.
+std::optional<StringsOptions> ParseOptions(std::span<const std::wstring> args, ITextSink& err,
+                                           int& exitCode) {
+    StringsOptions options;
+    for (size_t at = 0; at < args.size(); ++at) {
+        std::wstring name = args[at];
+        if (name.rfind(L"--", 0) != 0) {
+            if (options.id) {
+                exitCode = ReportUsageError(err, L"'strings' takes one ID, not " + name);
+                return std::nullopt;
+            }
+            options.id = name;
+            continue;
+        }
+        std::optional<std::wstring> value;
+        if (const size_t equals = name.find(L'='); equals != std::wstring::npos) {
+            value = name.substr(equals + 1);
+            name.resize(equals);
+        } else if (at + 1 < args.size()) {
+            value = args[++at];
+        }
+        std::wstring* target = name == L"--locale"            ? &options.localeName
+                               : name == L"--resource-folder" ? &options.resourceFolder
+                               : name == L"--section"         ? &options.section
+                                                              : nullptr;
+        if (target == nullptr) {
+            exitCode = ReportUsageError(err, L"unknown option for 'strings': " + name);
+            return std::nullopt;
+        }
+        if (!value || value->empty()) {
+            exitCode = ReportUsageError(err, name + L" needs a value");
+            return std::nullopt;
+        }
+        *target = *value;
+    }
+    if (options.localeName.empty()) {
+        exitCode = ReportUsageError(err, L"'strings' needs --locale NAME");
+        return std::nullopt;
+    }
+    return options;
+}
+
+std::wstring TableFile(const std::wstring& resourceFolder, const std::wstring& localeName) {
+    return ZelCommon::Path::ChildFile(ZelCommon::Path::ChildFolder(resourceFolder, localeName),
+                                      ZelResourceStringLoader::kTableFileName);
+}
+
+int PrintOne(const std::vector<Settings::StringTableEntry>& table, const StringsOptions& options,
+             ITextSink& out, ITextSink& err) {
+    for (const Settings::StringTableEntry& entry : table) {
+        if (entry.id == *options.id && !entry.text.empty()) {
+            out.Write(Settings::ExpandStringEscapes(entry.text));
+            out.Write(L"\n");
+            return kExitOk;
+        }
+    }
+    return ReportFailure(err, options.localeName + L" has no text for " + *options.id);
+}
+
+int CheckAll(const std::vector<Settings::StringTableEntry>& table,
+             const std::vector<Settings::StringTableEntry>* reference,
+             const StringsOptions& options, ITextSink& out) {
+    // The add-in's own ids are required only of its own section.
+    const bool addinSection = options.section == Settings::kAddinStringSection;
+    const Settings::StringTableFindings findings = Settings::CheckStringTable(
+        table, addinSection ? Settings::AddinStringIds() : std::span<const std::wstring_view>(),
+        reference);
+    for (const std::wstring& id : findings.missingIds) {
+        out.Write(L"missing: " + id + L"\n");
+    }
+    for (const std::wstring& id : findings.missingFromLocale) {
+        out.Write(L"missing (present in en-US): " + id + L"\n");
+    }
+    for (const Settings::PlaceholderUse& use : findings.unknownPlaceholders) {
+        out.Write(L"unknown placeholder " + use.placeholder + L" in " + use.id + L"\n");
+    }
+    for (const std::wstring& id : findings.conversionMismatches) {
+        out.Write(L"format differs from en-US: " + id + L"\n");
+    }
+    const size_t problems = findings.missingIds.size() + findings.missingFromLocale.size() +
+                            findings.unknownPlaceholders.size() +
+                            findings.conversionMismatches.size();
+    if (problems == 0) {
+        out.Write(ZelCommon::Text::Format(L"%s: %u ids, complete\n", options.localeName,
+                                          static_cast<unsigned>(table.size())));
+        return kExitOk;
+    }
+    out.Write(ZelCommon::Text::Format(L"%s: %u ids, %u problems\n", options.localeName,
+                                      static_cast<unsigned>(table.size()),
+                                      static_cast<unsigned>(problems)));
+    return kExitFailure;
+}
+
+}  // namespace
+
+int RunStringsCommand(std::span<const std::wstring> args, ITextSink& out, ITextSink& err,
+                      ZelCommon::Storage::IProfileApi& api) {
+    int exitCode = kExitOk;
+    std::optional<StringsOptions> options = ParseOptions(args, err, exitCode);
+    if (!options) {
+        return exitCode;
+    }
+    if (options->resourceFolder.empty()) {
+        options->resourceFolder = ZelResourceStringLoader().GetResourcePath();
+    }
+    const std::wstring file = TableFile(options->resourceFolder, options->localeName);
+    if (!ZelCommon::Path::FileExists(file)) {
+        return ReportFailure(err, L"no string table: " + file);
+    }
+    const auto table = Settings::ReadStringTableSection(api, file, options->section);
+    if (!table) {
+        return ReportFailure(err, L"no section [" + options->section + L"] in " + file);
+    }
+    if (options->id) {
+        return PrintOne(*table, *options, out, err);
+    }
+    const std::wstring english(ZelResourceStringLoader::kDefaultLocale);
+    if (options->localeName == english) {
+        return CheckAll(*table, nullptr, *options, out);
+    }
+    const auto reference = Settings::ReadStringTableSection(
+        api, TableFile(options->resourceFolder, english), options->section);
+    if (!reference) {
+        return ReportFailure(err, L"no en-US table to compare with in " + options->resourceFolder);
+    }
+    return CheckAll(*table, &*reference, *options, out);
+}
+
+std::wstring StringsHelpText() {
+    return LR"(strings command (the localised string tables, StringTable.ini per locale folder):
+  orvactl strings --locale NAME [--resource-folder DIR] [--section NAME] [ID]
+      With ID, prints the text of ID from the NAME table as the add-in shows it ("\n" and
+      "\r" become line breaks; placeholders such as <$PRODUCT NAME> stay as they are).
+      Without ID, checks the whole table and prints one line per problem:
+        missing: ID                      an id the add-in loads has no text
+        missing (present in en-US): ID   the en-US table has the id, NAME does not
+        unknown placeholder <$X> in ID   only <$PRODUCT NAME>, <$CORP_NAME> and <$SPAM_NAME>
+                                         are expanded
+        format differs from en-US: ID    the %d/%s conversions differ from the en-US text
+      then "NAME: N ids, complete" or "NAME: N ids, P problems". Exits 1 on any problem.
+      DIR is the folder holding the locale folders (in a checkout: res/Resource/x86); by
+      default the installed product's, found as the add-in finds it. The section defaults to
+      ORVA_WLM; other sections are checked for placeholders and against en-US only.
+)";
+}
+
+}  // namespace Orva::Orvactl
