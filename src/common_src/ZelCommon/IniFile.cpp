@@ -83,16 +83,18 @@ void IniFile::Flush() {
     m_api.WriteString(nullptr, nullptr, nullptr, m_path.c_str());
 }
 
+// The buffer holds `size` characters of text and its terminating zero, so a value that fills
+// all `size` characters may have been cut and is read again with 256 more.
 std::wstring IniFile::GetString(const std::wstring& name, const std::wstring& defaultValue) {
     std::wstring result = defaultValue;
     RequireOpen();
     uint32_t size = kStringStartChars;
     for (;;) {
-        std::vector<wchar_t> buffer = ZeroedBuffer(size);
+        std::vector<wchar_t> buffer = ZeroedBuffer(size + 1);
         const uint32_t length =
             m_api.GetString(m_section.c_str(), name.c_str(), defaultValue.c_str(), buffer.data(),
-                            size, m_path.c_str());
-        if (length == size - 1) {
+                            size + 1, m_path.c_str());
+        if (length == size) {
             size += kStringGrowthChars;
             continue;
         }
