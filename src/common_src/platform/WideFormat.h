@@ -53,11 +53,14 @@ private:
     std::string_view m_narrow;
 };
 
-// Formats with the meaning the Windows C runtime gives a wide format string, on every platform:
-// %s is a wide string and %S a narrow one (%ls and %hs say so explicitly), %c a wide character;
-// d i u x X o with the h, hh, l, ll, I32, I64, z length prefixes; e f g; flags - + space # 0,
-// width and precision (also *). Narrow text is decoded as UTF-8. An argument that does not fit
-// its conversion, or a missing one, prints nothing; a conversion it does not know is copied.
+// Formats with the meaning the Windows C runtime (msvcrt) gives a wide format string, on every
+// platform: %s is a wide string and %S a narrow one (%ls and %hs say so explicitly), %c a wide
+// character and %C a narrow one; d i u x X o p with the h, hh, l, ll, w, I, I32, I64, z length
+// prefixes, integers cut to the size the prefix names (l is 32 bits, hh is 16 as in msvcrt);
+// e E f g G with three exponent digits, exact ties rounded away from zero and "1.#INF"-style
+// infinities; flags - + space # 0 (0 pads text too), width and precision (also *). Narrow text
+// is decoded as UTF-8. An argument that does not fit its conversion, or a missing one, prints
+// nothing; an unknown conversion prints its letter alone. Widths are clamped at 100000.
 std::wstring FormatV(std::wstring_view format, std::span<const FormatArg> args);
 
 template <class... Args>
