@@ -107,37 +107,47 @@ void EmitInteger(std::wstring& out, const Spec& spec, wchar_t conversion, const 
         magnitude = negative ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
     }
 
-    wchar_t digits[72];
+    // Room for 64 bits in octal plus the leading zeros of any precision that still fits.
+    wchar_t digits[160];
     wchar_t* const end = digits + sizeof(digits) / sizeof(digits[0]);
     wchar_t* p = end;
-    const unsigned base = conversion == L'o'                           ? 8
-                          : (conversion == L'x' || conversion == L'X') ? 16
-                                                                       : 10;
     const wchar_t* const alphabet = conversion == L'X' ? L"0123456789ABCDEF" : L"0123456789abcdef";
-    for (uint64_t v = magnitude; v != 0; v /= base) {
-        *--p = alphabet[v % base];
+    const bool hex = conversion == L'x' || conversion == L'X';
+    if (hex) {
+        for (uint64_t v = magnitude; v != 0; v >>= 4) {
+            *--p = alphabet[v & 15];
+        }
+    } else if (conversion == L'o') {
+        for (uint64_t v = magnitude; v != 0; v >>= 3) {
+            *--p = alphabet[v & 7];
+        }
+    } else {
+        for (uint64_t v = magnitude; v != 0; v /= 10) {
+            *--p = alphabet[v % 10];
+        }
     }
-    const int precision = spec.precision < 0 ? 1 : spec.precision;
-    std::wstring_view body(p, static_cast<size_t>(end - p));
-    std::wstring zeros;
-    if (body.size() < static_cast<size_t>(precision)) {
-        zeros.assign(static_cast<size_t>(precision) - body.size(), L'0');
-    }
-    if (conversion == L'o' && spec.alternate && zeros.empty() && !body.empty()) {
-        zeros = L"0";
-    }
+    const size_t precision = spec.precision < 0 ? 1 : static_cast<size_t>(spec.precision);
+    size_t length = static_cast<size_t>(end - p);
+    const bool octalMark =
+        conversion == L'o' && spec.alternate && length >= precision && length > 0;
+    const size_t wanted = octalMark ? length + 1 : std::max(length, precision);
 
     std::wstring_view prefix;
     if (isSigned) {
         prefix = negative ? L"-" : spec.plus ? L"+" : spec.space ? L" " : L"";
-    } else if (spec.alternate && magnitude != 0 && base == 16) {
+    } else if (spec.alternate && magnitude != 0 && hex) {
         prefix = conversion == L'X' ? L"0X" : L"0x";
     }
-    if (zeros.empty()) {
-        Emit(out, spec, prefix, body);
+    if (wanted <= static_cast<size_t>(p - digits) + length) {
+        while (length < wanted) {
+            *--p = L'0';
+            ++length;
+        }
+        Emit(out, spec, prefix, std::wstring_view(p, length));
     } else {
-        zeros.append(body);
-        Emit(out, spec, prefix, zeros);
+        std::wstring padded(wanted - length, L'0');
+        padded.append(p, length);
+        Emit(out, spec, prefix, padded);
     }
 }
 
