@@ -347,6 +347,66 @@ const StatusCase kStatusCases[] = {
          });
      },
      RegStatus::KeyDeleted},
+    {"FlushDeletedKey", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         return WithKey(api, base, L"empty", RegAccess::QueryValue, [&](RegHandle key) {
+             EXPECT_EQ(api.DeleteKey(base, L"empty"), RegStatus::Success);
+             return api.FlushKey(key);
+         });
+     },
+     RegStatus::KeyDeleted},
+    {"SetOnDeletedKey", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         return WithKey(api, base, L"empty", RegAccess::SetValue, [&](RegHandle key) {
+             EXPECT_EQ(api.DeleteKey(base, L"empty"), RegStatus::Success);
+             return SetDwordValue(api, key, L"d", 1);
+         });
+     },
+     RegStatus::KeyDeleted},
+    {"CloseDeletedKeyHandle", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         const RegHandle key = MustOpen(api, base, L"empty", RegAccess::QueryValue);
+         EXPECT_EQ(api.DeleteKey(base, L"empty"), RegStatus::Success);
+         return api.CloseKey(key);
+     },
+     RegStatus::Success},
+    {"DeleteKeyBelowQueryOnlyHandle", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         return WithKey(api, base, L"k", RegAccess::QueryValue,
+                        [&](RegHandle key) { return api.DeleteKey(key, L"sub"); });
+     },
+     RegStatus::Success},
+    {"QueryWithNoRightsAtAll", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         return WithKey(api, base, L"k", 0, [&](RegHandle key) { return Query(api, key, L"v"); });
+     },
+     RegStatus::AccessDenied},
+    {"QueryExistenceOnly", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         return WithKey(api, base, L"k", RegAccess::QueryValue, [&](RegHandle key) {
+             return api.QueryValue(key, L"v", nullptr, nullptr, nullptr);
+         });
+     },
+     RegStatus::Success},
+    {"QueryDataWithoutSize", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         return WithKey(api, base, L"k", RegAccess::QueryValue, [&](RegHandle key) {
+             uint8_t data[64];
+             return api.QueryValue(key, L"v", nullptr, data, nullptr);
+         });
+     },
+     RegStatus::InvalidParameter},
+    {"SetDwordOfThreeBytes", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         const uint8_t bytes[] = {1, 2, 3};
+         return api.SetValue(base, L"d3", RegType::Dword, bytes, 3);
+     },
+     RegStatus::Success},
+    {"SetEmptyBinary", Nothing,
+     [](IRegistryApi& api, RegHandle base) {
+         return api.SetValue(base, L"none", RegType::Binary, nullptr, 0);
+     },
+     RegStatus::Success},
     {"FlushOpenKey", Nothing,
      [](IRegistryApi& api, RegHandle base) {
          return WithKey(api, base, L"k", RegAccess::QueryValue,
