@@ -14,8 +14,10 @@ namespace ZelCommon::Storage {
 // A registry held in memory that answers like the Win32 registry functions: predefined roots,
 // nested keys with case-insensitive names, handles that carry their granted access, the size
 // protocol of RegQueryValueExW and the enumeration order of Windows (subkeys sorted by their
-// upper-cased names, values in the order they were first set). It serves as the registry of
-// the native build and as the registry of tests. Any thread may call it.
+// upper-cased names, values in the order they were first set). Like Windows, SetValue of a
+// string type peeks at the character after the counted bytes and counts it when it is the
+// terminator the caller forgot. It serves as the registry of the native build and as the
+// registry of tests; WOW64 views are not modelled. Any thread may call it.
 class MemoryRegistry : public IRegistryApi {
 public:
     MemoryRegistry();

@@ -5,8 +5,11 @@
 
 namespace ZelCommon::Storage {
 
-// The registry back end: one open key. The view argument selects the registry view of a
-// 64-bit Windows: 1 the 32-bit view, 2 the 64-bit view, anything else the caller's own.
+// The registry back end: one open key, closed with the store. The view argument selects the
+// registry view of a 64-bit Windows: 1 the 32-bit view, 2 the 64-bit view, anything else the
+// caller's own. Getters check the stored type (and size) and throw error 13 on a mismatch; a
+// missing value throws error 2 even where a default is passed, so callers that want the default
+// catch. Keys made by Create get the DACL of AccessControl::SecurityAttributes.
 class Registry : public Base {
 public:
     explicit Registry(IRegistryApi& api = SystemRegistryApi()) : m_api(api) {}
