@@ -48,15 +48,22 @@ protected:
         for (size_t i = 0; i < size; ++i) {
             bytes.push_back(kPool[Next() % (sizeof(kPool) - 1)]);
         }
-        if (kind == 1) {
-            std::wstring wide(bytes.begin(), bytes.end());
-            return Utf16LeFile(wide);
+        if (kind == 1 || kind == 2) {
+            std::wstring wide;
+            for (char c : bytes) {
+                wide.push_back(static_cast<wchar_t>(static_cast<unsigned char>(c)));
+            }
+            return kind == 1 ? Utf16LeFile(wide) : Utf16BeFile(wide);
+        }
+        if (kind == 3) {
+            return "\xEF\xBB" + bytes;  // a cut UTF-8 mark is ANSI text
         }
         return bytes;
     }
 
     const wchar_t* RandomName() {
-        static const wchar_t* const kNames[] = {L"a", L"A", L"b", L" a", L"a ", L"", L";a"};
+        static const wchar_t* const kNames[] = {L"a", L"A",  L"b",      L" a", L"a ",
+                                                L"",  L";a", L"\u00E9", L"[a]"};
         return kNames[Next() % (sizeof(kNames) / sizeof(kNames[0]))];
     }
 
@@ -83,7 +90,7 @@ TEST_F(ProfileDifferential, RandomFiles_EngineAnswersAsWin32) {
     ProfileEngine engine;
     Win32ProfileApi win32;
     static const uint32_t kSizes[] = {2, 3, 5, 8, 64};
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 600; ++round) {
         const std::string bytes = RandomFile();
         const std::filesystem::path engineFile = m_folder / ("e" + std::to_string(round) + ".ini");
         const std::filesystem::path win32File = m_folder / ("w" + std::to_string(round) + ".ini");

@@ -159,5 +159,41 @@ TEST_F(ProfileEngineFiles, RandomBytes_NeverCrash) {
     }
 }
 
+TEST_F(ProfileEngineFiles, OddLengthUtf16_LastByteIgnored) {
+    Put("\xFF\xFE[\0s\0]\0\r\0\n\0k\0=\0v\0\r\0\n\0x"s);
+    EXPECT_EQ(Get(L"s", L"k"), L"v");
+}
+
+TEST_F(ProfileEngineFiles, LoneSurrogatesInUtf16_DoNotStopTheFile) {
+    Put("\xFF\xFE[\0s\0]\0\n\0a\0=\0\x00\xD8\n\0k\0=\0v\0"s);
+    EXPECT_EQ(Get(L"s", L"k"), L"v");
+}
+
+TEST_F(ProfileEngineFiles, Utf8MarkOnly_NoSections) {
+    Put("\xEF\xBB\xBF");
+    wchar_t buffer[8] = {L'#', L'#'};
+    EXPECT_EQ(m_engine.GetSectionNames(buffer, 8, m_file.c_str()), 0u);
+    EXPECT_EQ(buffer[0], L'\0');
+}
+
+TEST_F(ProfileEngineFiles, InvalidUtf8_ReadAroundTheDamage) {
+    Put("\xEF\xBB\xBF[s]\r\nbad=\xC3\x28\xFF\r\nk=v\r\n");
+    EXPECT_EQ(Get(L"s", L"k"), L"v");
+    EXPECT_NE(Get(L"s", L"bad"), L"?");
+}
+
+TEST_F(ProfileEngineFiles, FiveMegabyteFile_ReadAndRewritten) {
+    std::string bytes = "[s]\r\nk=" + std::string(4 * 1024 * 1024, 'x') + "\r\n";
+    for (int i = 0; i < 20000; ++i) {
+        bytes += "[n" + std::to_string(i) + "]\r\nk=v\r\n";
+    }
+    Put(bytes);
+    EXPECT_EQ(Get(L"n19999", L"k"), L"v");
+    EXPECT_EQ(Get(L"s", L"k"), std::wstring(255, L'x'));
+    ASSERT_TRUE(m_engine.WriteString(L"n5", L"k", L"w", m_file.c_str()));
+    EXPECT_EQ(Get(L"n5", L"k"), L"w");
+    EXPECT_EQ(std::filesystem::file_size(m_folder / "settings.ini"), bytes.size());
+}
+
 }  // namespace
 }  // namespace ZelCommon::Storage::Testing
