@@ -95,7 +95,7 @@ void CEncodingSet::Parse(std::wstring_view text) {
 }
 
 std::wstring CEncodingSet::Format() const {
-    std::wstring text(kWrittenHeader);
+    std::wstring text(kWrittenHeader.begin(), kWrittenHeader.end());
     text.push_back(L'\n');
     text.append(ZelCommon::Text::Format(L"%d\n", m_value));
     for (const auto& [name, group] : m_groups) {

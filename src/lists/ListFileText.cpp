@@ -2,30 +2,31 @@
 
 #include "common_src/platform/TextCodec.h"
 #include "lists/ListKinds.h"
+#include "lists/ListText.h"
 
 namespace Orva::Lists {
-namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-}  // namespace
-
-std::wstring DecodeListText(std::string_view bytes) {
+std::string_view SkipUtf8Mark(std::string_view bytes) {
     if (bytes.starts_with(kUtf8Mark)) {
         bytes.remove_prefix(kUtf8Mark.size());
     }
-    return ZelCommon::Text::Utf8ToWide(bytes);
+    return bytes;
+}
+
+std::wstring DecodeListText(std::string_view bytes) {
+    return ZelCommon::Text::Utf8ToWide(SkipUtf8Mark(bytes));
 }
 
 std::string EncodeListText(std::wstring_view text) {
     std::string bytes(kUtf8Mark);
-    bytes.append(ZelCommon::Text::WideToUtf8(text));
+    bytes.reserve(kUtf8Mark.size() + text.size() + text.size() / 4);
+    AppendUtf8(bytes, text);
     return bytes;
 }
 
-bool HasAcceptedHeader(std::wstring_view firstLine) {
-    for (const std::wstring_view header : kAcceptedHeaders) {
-        if (firstLine.find(header) != std::wstring_view::npos) {
+bool HasAcceptedHeader(std::string_view firstLine) {
+    for (const std::string_view header : kAcceptedHeaders) {
+        if (firstLine.find(header) != std::string_view::npos) {
             return true;
         }
     }

@@ -5,23 +5,29 @@
 
 namespace Orva::Lists {
 
-// The text of a UTF-8 list file, with or without a byte-order mark.
+// The UTF-8 byte-order mark that the Windows runtime's UTF-8 text mode writes when it creates a
+// file and skips when it reads one.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+// The bytes after a leading byte-order mark, if any.
+std::string_view SkipUtf8Mark(std::string_view bytes);
+// The text of a UTF-8 file, with or without a byte-order mark.
 std::wstring DecodeListText(std::string_view bytes);
-// The bytes of a list file: a UTF-8 byte-order mark, as the Windows runtime's UTF-8 text mode
-// writes one when it creates a file, then the text.
+// The bytes of a file: the byte-order mark, then the text as UTF-8.
 std::string EncodeListText(std::wstring_view text);
 
-// Calls `visit` with each line of `text`, without its line end; "\n" and "\r\n" end a line
-// alike (text mode on Windows reads both the same). A last line without an end counts.
-template <class Visit>
-void ForEachLine(std::wstring_view text, Visit&& visit) {
+// Calls `visit` with each line of `text` (bytes or wide text), without its line end; "\n" and
+// "\r\n" end a line alike, as text mode on Windows reads both the same. A last line without an
+// end counts. `visit` returns false to stop.
+template <class Char, class Visit>
+void ForEachLine(std::basic_string_view<Char> text, Visit&& visit) {
     while (!text.empty()) {
-        const size_t end = text.find(L'\n');
-        std::wstring_view line = text.substr(0, end);
-        if (!line.empty() && line.back() == L'\r') {
+        const size_t end = text.find(Char('\n'));
+        std::basic_string_view<Char> line = text.substr(0, end);
+        if (!line.empty() && line.back() == Char('\r')) {
             line.remove_suffix(1);
         }
-        if (!visit(line) || end == std::wstring_view::npos) {
+        if (!visit(line) || end == std::basic_string_view<Char>::npos) {
             return;
         }
         text.remove_prefix(end + 1);
@@ -29,6 +35,6 @@ void ForEachLine(std::wstring_view text, Visit&& visit) {
 }
 
 // Whether a list file's first line carries a header of the family's products.
-bool HasAcceptedHeader(std::wstring_view firstLine);
+bool HasAcceptedHeader(std::string_view firstLine);
 
 }  // namespace Orva::Lists

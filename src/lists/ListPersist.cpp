@@ -1,26 +1,27 @@
 #include "lists/ListPersist.h"
 
+#include "common_src/platform/TextCodec.h"
 #include "lists/ListText.h"
 
 namespace Orva::Lists {
 namespace {
 
-void AppendTagged(std::wstring& record, std::wstring_view open, std::wstring_view value,
-                  std::wstring_view close) {
+void AppendTagged(std::string& record, std::string_view open, std::wstring_view value,
+                  std::string_view close) {
     record.append(open);
-    record.append(value);
+    AppendUtf8(record, value);
     record.append(close);
 }
 
 }  // namespace
 
 template <class Kind>
-void CListSenderName<Kind>::Parse(std::wstring_view record, SenderEntry& entry) const {
-    entry.name.assign(ExtractTaggedValue(record, kNameOpen, kNameClose));
+void CListSenderName<Kind>::Parse(std::string_view record, SenderEntry& entry) const {
+    entry.name = ZelCommon::Text::Utf8ToWide(ExtractTaggedValue(record, kNameOpen, kNameClose));
 }
 
 template <class Kind>
-void CListSenderName<Kind>::Format(const SenderEntry& entry, std::wstring& record) const {
+void CListSenderName<Kind>::Format(const SenderEntry& entry, std::string& record) const {
     AppendTagged(record, kNameOpen, entry.name, kNameClose);
 }
 
@@ -31,17 +32,16 @@ const CListSenderName<Kind>& CListSenderName<Kind>::Instance() {
 }
 
 template <class Kind>
-void CListSenderAddr<Kind>::Parse(std::wstring_view record, SenderEntry& entry) const {
-    const std::wstring_view value = ExtractTaggedValue(record, kAddressOpen, kAddressClose);
-    if (value.find(L"**") == std::wstring_view::npos) {
-        entry.address.assign(value);
-    } else {
-        entry.address = CollapseStars(value);
+void CListSenderAddr<Kind>::Parse(std::string_view record, SenderEntry& entry) const {
+    const std::string_view value = ExtractTaggedValue(record, kAddressOpen, kAddressClose);
+    entry.address = ZelCommon::Text::Utf8ToWide(value);
+    if (value.find("**") != std::string_view::npos) {
+        entry.address = CollapseStars(entry.address);
     }
 }
 
 template <class Kind>
-void CListSenderAddr<Kind>::Format(const SenderEntry& entry, std::wstring& record) const {
+void CListSenderAddr<Kind>::Format(const SenderEntry& entry, std::string& record) const {
     AppendTagged(record, kAddressOpen, entry.address, kAddressClose);
 }
 

@@ -14,10 +14,10 @@ template <class Kind>
 class IListPersist {
 public:
     virtual ~IListPersist() = default;
-    // Takes the field's value out of a record body into `entry`.
-    virtual void Parse(std::wstring_view record, SenderEntry& entry) const = 0;
-    // Appends the field as tagged text to `record`.
-    virtual void Format(const SenderEntry& entry, std::wstring& record) const = 0;
+    // Takes the field's value out of a record body (UTF-8, as in the file) into `entry`.
+    virtual void Parse(std::string_view record, SenderEntry& entry) const = 0;
+    // Appends the field as tagged UTF-8 text to `record`.
+    virtual void Format(const SenderEntry& entry, std::string& record) const = 0;
 };
 
 using IBListPersist = IListPersist<BlockedList>;
@@ -26,8 +26,8 @@ using IWListPersist = IListPersist<ApprovedList>;
 template <class Kind>
 class CListSenderName final : public IListPersist<Kind> {
 public:
-    void Parse(std::wstring_view record, SenderEntry& entry) const override;
-    void Format(const SenderEntry& entry, std::wstring& record) const override;
+    void Parse(std::string_view record, SenderEntry& entry) const override;
+    void Format(const SenderEntry& entry, std::string& record) const override;
     static const CListSenderName& Instance();
 };
 
@@ -35,8 +35,8 @@ public:
 template <class Kind>
 class CListSenderAddr final : public IListPersist<Kind> {
 public:
-    void Parse(std::wstring_view record, SenderEntry& entry) const override;
-    void Format(const SenderEntry& entry, std::wstring& record) const override;
+    void Parse(std::string_view record, SenderEntry& entry) const override;
+    void Format(const SenderEntry& entry, std::string& record) const override;
     static const CListSenderAddr& Instance();
 };
 

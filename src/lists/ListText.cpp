@@ -7,7 +7,7 @@
 namespace Orva::Lists {
 namespace {
 
-constexpr std::wstring_view kEveryTag[] = {
+constexpr std::string_view kEveryTag[] = {
     BlockedList::kRecordOpen,
     BlockedList::kRecordClose,
     ApprovedList::kRecordOpen,
@@ -18,8 +18,27 @@ constexpr std::wstring_view kEveryTag[] = {
     kAddressClose,
 };
 
-bool IsBlank(wchar_t c) {
-    return c == L' ' || c == L'\t';
+template <class Char>
+bool IsBlank(Char c) {
+    return c == Char(' ') || c == Char('\t');
+}
+
+// Whether wide text holds an ASCII needle.
+bool HoldsAscii(std::wstring_view text, std::string_view needle) {
+    if (text.size() < needle.size()) {
+        return false;
+    }
+    for (size_t at = 0; at + needle.size() <= text.size(); ++at) {
+        size_t i = 0;
+        while (i < needle.size() &&
+               text[at + i] == static_cast<wchar_t>(static_cast<unsigned char>(needle[i]))) {
+            ++i;
+        }
+        if (i == needle.size()) {
+            return true;
+        }
+    }
+    return false;
 }
 
 // Unpaired surrogates (or, with 32-bit wchar_t, values beyond Unicode) would come back from
@@ -49,18 +68,18 @@ bool HasOnlyScalarValues(std::wstring_view value) {
 
 }  // namespace
 
-std::wstring_view ExtractTaggedValue(std::wstring_view line, std::wstring_view open,
-                                     std::wstring_view close) {
+std::string_view ExtractTaggedValue(std::string_view line, std::string_view open,
+                                    std::string_view close) {
     const size_t openAt = line.find(open);
-    if (openAt == std::wstring_view::npos) {
+    if (openAt == std::string_view::npos) {
         return {};
     }
     const size_t closeAt = line.find(close, openAt + 1);
     const size_t begin = openAt + open.size();
-    if (closeAt == std::wstring_view::npos || closeAt < begin) {
+    if (closeAt == std::string_view::npos || closeAt < begin) {
         return {};
     }
-    std::wstring_view value = line.substr(begin, closeAt - begin);
+    std::string_view value = line.substr(begin, closeAt - begin);
     while (!value.empty() && IsBlank(value.front())) {
         value.remove_prefix(1);
     }
@@ -85,19 +104,73 @@ bool IsStorableValue(std::wstring_view value) {
     if (!value.empty() && (IsBlank(value.front()) || IsBlank(value.back()))) {
         return false;
     }
+    // Without early exits the scan vectorises; lists are saved whole, value after value.
+    bool control = false;
+    bool mayHoldTag = false;
+    bool mayHoldSurrogate = false;
     for (const wchar_t c : value) {
-        if (static_cast<uint32_t>(c) < 0x20 && c != L'\t') {
-            return false;
-        }
+        const auto code = static_cast<uint32_t>(c);
+        control |= (code < 0x20) & (code != 0x09);
+        mayHoldTag |= code == 0x3C;
+        mayHoldSurrogate |= code >= 0xD800;
     }
-    if (value.find(L'<') != std::wstring_view::npos) {
-        for (const std::wstring_view tag : kEveryTag) {
-            if (value.find(tag) != std::wstring_view::npos) {
+    if (control) {
+        return false;
+    }
+    if (mayHoldTag) {
+        for (const std::string_view tag : kEveryTag) {
+            if (HoldsAscii(value, tag)) {
                 return false;
             }
         }
     }
-    return HasOnlyScalarValues(value);
+    return !mayHoldSurrogate || HasOnlyScalarValues(value);
+}
+
+void AppendUtf8(std::string& out, std::wstring_view text) {
+    bool ascii = true;
+    for (const wchar_t c : text) {
+        ascii &= static_cast<uint32_t>(c) < 0x80;
+    }
+    if (ascii) {
+        const size_t start = out.size();
+        out.resize(start + text.size());
+        char* target = out.data() + start;
+        for (const wchar_t c : text) {
+            *target++ = static_cast<char>(c);
+        }
+        return;
+    }
+    for (size_t i = 0; i < text.size(); ++i) {
+        auto c = static_cast<uint32_t>(text[i]);
+        if (c < 0x80) {
+            out.push_back(static_cast<char>(c));
+            continue;
+        }
+        if constexpr (sizeof(wchar_t) == 2) {
+            if (c >= 0xD800 && c <= 0xDBFF && i + 1 < text.size()) {
+                const auto low = static_cast<uint32_t>(text[i + 1]);
+                if (low >= 0xDC00 && low <= 0xDFFF) {
+                    c = 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00);
+                    ++i;
+                }
+            }
+        }
+        if ((c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF) {
+            c = 0xFFFD;
+        }
+        if (c < 0x800) {
+            out.push_back(static_cast<char>(0xC0 | (c >> 6)));
+        } else if (c < 0x10000) {
+            out.push_back(static_cast<char>(0xE0 | (c >> 12)));
+            out.push_back(static_cast<char>(0x80 | ((c >> 6) & 0x3F)));
+        } else {
+            out.push_back(static_cast<char>(0xF0 | (c >> 18)));
+            out.push_back(static_cast<char>(0x80 | ((c >> 12) & 0x3F)));
+            out.push_back(static_cast<char>(0x80 | ((c >> 6) & 0x3F)));
+        }
+        out.push_back(static_cast<char>(0x80 | (c & 0x3F)));
+    }
 }
 
 }  // namespace Orva::Lists

@@ -7,8 +7,10 @@ namespace Orva::Lists {
 
 // The value between `open` and `close` in `line`, trimmed of spaces and tabs. The close tag is
 // searched from one character past the open tag's position; a missing tag gives an empty value.
-std::wstring_view ExtractTaggedValue(std::wstring_view line, std::wstring_view open,
-                                     std::wstring_view close);
+// Lines are UTF-8: tags, blanks and line ends are ASCII, and no UTF-8 sequence, whole or broken,
+// holds an ASCII byte, so matching them in the bytes finds what matching the text would.
+std::string_view ExtractTaggedValue(std::string_view line, std::string_view open,
+                                    std::string_view close);
 
 // Reduces every run of "*" to one "*".
 std::wstring CollapseStars(std::wstring_view address);
@@ -17,5 +19,8 @@ std::wstring CollapseStars(std::wstring_view address);
 // list, no control character but the tab, nothing that is not a Unicode scalar value, and no
 // space or tab at either end (reading trims them).
 bool IsStorableValue(std::wstring_view value);
+
+// Appends `text` to `out` as UTF-8; what is not a scalar value becomes U+FFFD.
+void AppendUtf8(std::string& out, std::wstring_view text);
 
 }  // namespace Orva::Lists

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,11 +16,11 @@ namespace Orva::Lists {
 // The read and write routines of "WhiteList.dat" and "BlackList.dat", one pair for both kinds.
 template <class Kind>
 struct SenderListFile {
-    // The entry of one line, or an empty address when the line holds no record of this list.
-    // A value that could not be written back unchanged (a tag text in it) drops the line.
-    static SenderEntry ParseLine(std::wstring_view line) {
+    // The entry of one line (UTF-8), or an empty address when the line holds no record of this
+    // list. A value that could not be written back unchanged (a tag text in it) drops the line.
+    static SenderEntry ParseLine(std::string_view line) {
         SenderEntry entry;
-        const std::wstring_view record =
+        const std::string_view record =
             ExtractTaggedValue(line, Kind::kRecordOpen, Kind::kRecordClose);
         if (record.empty()) {
             return entry;
@@ -44,9 +45,8 @@ struct SenderListFile {
         if (!bytes) {
             return;
         }
-        const std::wstring text = DecodeListText(*bytes);
         bool first = true;
-        ForEachLine(text, [&](std::wstring_view line) {
+        ForEachLine(SkipUtf8Mark(*bytes), [&](std::string_view line) {
             if (first) {
                 first = false;
                 return HasAcceptedHeader(line);
@@ -59,29 +59,29 @@ struct SenderListFile {
         });
     }
 
-    static void AppendRecordLine(const SenderEntry& entry, std::wstring& text) {
-        text.append(Kind::kRecordOpen);
-        CListSenderName<Kind>::Instance().Format(entry, text);
-        CListSenderAddr<Kind>::Instance().Format(entry, text);
-        text.append(Kind::kRecordClose);
-        text.push_back(L'\n');
+    static void AppendRecordLine(const SenderEntry& entry, std::string& bytes) {
+        bytes.append(Kind::kRecordOpen);
+        CListSenderName<Kind>::Instance().Format(entry, bytes);
+        CListSenderAddr<Kind>::Instance().Format(entry, bytes);
+        bytes.append(Kind::kRecordClose);
+        bytes.push_back('\n');
     }
 
-    // The file's bytes for `entries` (a range of SenderEntry) in their order. An entry whose
-    // values could not be read back unchanged is left out rather than damage the file.
+    // The file's bytes for `entries` (a sized range of SenderEntry) in their order. An entry
+    // whose values could not be read back unchanged is left out rather than damage the file.
     template <class Entries>
     static std::string Format(const Entries& entries) {
-        std::wstring text;
-        text.reserve(64 + entries.size() * 96);
-        text.append(kWrittenHeader);
-        text.push_back(L'\n');
+        std::string bytes(kUtf8Mark);
+        bytes.reserve(64 + entries.size() * 96);
+        bytes.append(kWrittenHeader);
+        bytes.push_back('\n');
         for (const SenderEntry& entry : entries) {
             if (!entry.address.empty() && IsStorableValue(entry.address) &&
                 IsStorableValue(entry.name)) {
-                AppendRecordLine(entry, text);
+                AppendRecordLine(entry, bytes);
             }
         }
-        return EncodeListText(text);
+        return bytes;
     }
 
     // False when the file could not be replaced; the old file then stays as it was.

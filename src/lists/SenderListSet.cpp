@@ -79,12 +79,12 @@ int CSenderListSet<Kind>::Add(const wchar_t* address, const SenderEntry& entry) 
 // Load's Add, under the unique lock already held. Files are written in key order, so the
 // common case appends at the end of the map.
 template <class Kind>
-int CSenderListSet<Kind>::AddUnlocked(const wchar_t* address, const SenderEntry& entry) {
-    TheLog().LogMessage(LogInfo, kLogSource, __LINE__, L"CBListSet::Add %s", address);
+int CSenderListSet<Kind>::AddLoaded(SenderEntry&& entry) {
+    TheLog().LogMessage(LogInfo, kLogSource, __LINE__, L"CBListSet::Add %s", entry.address);
     if (m_entries.size() >= kListLimit) {
         return kAddFull;
     }
-    std::wstring key = ZelCommon::Text::ToLower(address);
+    std::wstring key = ZelCommon::Text::ToLower(entry.address);
     auto at = m_entries.end();
     if (!m_entries.empty() && !(std::prev(at)->first < key)) {
         at = m_entries.lower_bound(key);
@@ -95,7 +95,7 @@ int CSenderListSet<Kind>::AddUnlocked(const wchar_t* address, const SenderEntry&
     if (HoldsStar(key)) {
         m_wildcards.emplace(key, 0u);
     }
-    m_entries.emplace_hint(at, std::move(key), entry);
+    m_entries.emplace_hint(at, std::move(key), std::move(entry));
     return kAddAdded;
 }
 
@@ -149,8 +149,7 @@ void CSenderListSet<Kind>::Load(const std::wstring& path) {
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
     m_entries.clear();
     m_wildcards.clear();
-    SenderListFile<Kind>::Read(
-        path, [this](SenderEntry&& entry) { AddUnlocked(entry.address.c_str(), entry); });
+    SenderListFile<Kind>::Read(path, [this](SenderEntry&& entry) { AddLoaded(std::move(entry)); });
 }
 
 template <class Kind>

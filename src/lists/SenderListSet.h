@@ -52,7 +52,7 @@ public:
     std::vector<std::wstring> WildcardKeys() const;
 
 private:
-    int AddUnlocked(const wchar_t* address, const SenderEntry& entry);
+    int AddLoaded(SenderEntry&& entry);
 
     mutable boost::upgrade_mutex m_lock;
     std::map<std::wstring, SenderEntry> m_entries;

@@ -268,6 +268,10 @@ INSTANTIATE_TEST_SUITE_P(
                  L"", L""},
         LineCase{"InnerCarriageReturnDropsLine", BlockedRecord("a\rb", "a@b.com"), L"", L""},
         LineCase{"InnerTabKept", BlockedRecord("a\tb", "a@b.com"), L"a\tb", L"a@b.com"},
+        LineCase{"BrokenSequenceRightBeforeTag", BlockedRecord("a\xE0", "a@b.com"), L"a\uFFFD",
+                 L"a@b.com"},
+        LineCase{"BrokenSequenceInAddress", BlockedRecord("", "a\xF0\x9F@b.com"), L"",
+                 L"a\uFFFD@b.com"},
         LineCase{"BadUtf8BecomesReplacement", BlockedRecord("a\xFF", "a@b.com"), L"a\uFFFD",
                  L"a@b.com"}),
     [](const auto& test) { return std::string(test.param.label); });
