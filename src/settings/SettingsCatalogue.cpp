@@ -16,8 +16,8 @@ constexpr std::wstring_view kReportFP = L"ReportFP";
 constexpr std::wstring_view kReportPhish = L"ReportPhish";
 constexpr std::wstring_view kVersion32 = L"ORVA_OE";
 constexpr std::wstring_view kVersion64 = L"ORVA_OE64";
-// The version file's pname, class and type follow the machine; DeployVersion always goes to
-// the 32-bit section, where the deployment tools look for it.
+// The version file's pname, class and type go to the section of the machine's bitness;
+// DeployVersion stays in the 32-bit section on every machine.
 constexpr std::wstring_view kRunTime = L"";
 
 // The maker's feedback server; deployments override it in the per-user file.

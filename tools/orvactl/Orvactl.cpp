@@ -56,7 +56,11 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
         return ReportUsageError(err, L"missing command");
     }
     const std::span<const std::wstring> rest = std::span(args).subspan(1);
-    if (args[0] == L"--help" || args[0] == L"-h" || args[0] == L"help") {
+    const auto asksForHelp = [](const std::wstring& arg) {
+        return arg == L"--help" || arg == L"-h" || arg == L"help";
+    };
+    // "orvactl ini --help" and "orvactl settings --help" too.
+    if (asksForHelp(args[0]) || (args.size() > 1 && asksForHelp(args[1]))) {
         out.Write(HelpText());
         return kExitOk;
     }

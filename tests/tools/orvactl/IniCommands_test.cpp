@@ -152,5 +152,13 @@ TEST(OrvactlHelp, ExplainsEveryCommand) {
     }
 }
 
+TEST(OrvactlHelp, AfterACommand_ShowsTheSameHelp) {
+    for (const wchar_t* command : {L"ini", L"settings"}) {
+        const auto run = RunTool({command, L"--help"});
+        EXPECT_EQ(run.exitCode, kExitOk);
+        EXPECT_EQ(run.out, HelpText());
+    }
+}
+
 }  // namespace
 }  // namespace Orva::Orvactl
