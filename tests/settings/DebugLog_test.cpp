@@ -8,6 +8,7 @@
 #include <regex>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "common_src/fakes/FakeClock.h"
@@ -319,6 +320,53 @@ TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {
     EXPECT_EQ(m_debugger.Texts().size(), static_cast<size_t>(kThreads * kLines));
 }
 
+TEST_F(DebugLogTest, WritersAcrossMidnight_EachLineLandsInTheFileOfItsOwnDate) {
+    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 0));
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    std::atomic<bool> stop{false};
+    std::vector<std::thread> writers;
+    for (int t = 0; t < 4; ++t) {
+        writers.emplace_back([this, &stop, t] {
+            int n = 0;
+            while (!stop) {
+                m_log.LogText(L"writer %d line %d", t, n++);
+            }
+            // Past midnight by now: every writer also reaches the new day's file.
+            m_log.LogText(L"writer %d line %d", t, n);
+        });
+    }
+    for (int step = 0; step < 2000; ++step) {
+        m_clock.Advance(1);
+        std::this_thread::yield();
+    }
+    stop = true;
+    for (std::thread& writer : writers) {
+        writer.join();
+    }
+    const std::regex shape("1234:000b (2024/01/31|2024/02/01) [0-9:]{12} writer [0-3] line [0-9]+");
+    size_t total = 0;
+    for (const auto& [file, date] : {std::pair{"ORVAAgent.20240131.log", "2024/01/31"},
+                                     std::pair{"ORVAAgent.20240201.log", "2024/02/01"}}) {
+        std::string text = ReadBytes(m_folder / file);
+#ifdef _WIN32
+        std::erase(text, '\r');
+#endif
+        size_t start = 0;
+        while (start < text.size()) {
+            const size_t end = text.find('\n', start);
+            ASSERT_NE(end, std::string::npos);
+            const std::string line = text.substr(start, end - start);
+            std::smatch match;
+            ASSERT_TRUE(std::regex_match(line, match, shape)) << line;
+            EXPECT_EQ(match[1].str(), date) << file;
+            ++total;
+            start = end + 1;
+        }
+    }
+    EXPECT_EQ(total, m_debugger.Texts().size());
+    EXPECT_GE(total, 4u);
+}
+
 struct DatedRow {
     const wchar_t* base;
     const wchar_t* dated;
@@ -331,6 +379,7 @@ TEST(DebugLogDatedPath, DateGoesBeforeLastDotOrLastCharacter) {
         {L"agent.trace.txt", L"agent.trace.20240131.txt"},
         {L"C:\\log\\ORVAAgent", L"C:\\log\\ORVAAgen.20240131t"},
         {L"x", L".20240131x"},
+        {L"C:\\my.folder\\ORVAAgent", L"C:\\my.20240131.folder\\ORVAAgent"},
         {L"name.", L"name.20240131."},
         {L"", L".20240131"},
     };
