@@ -135,6 +135,9 @@ void ProfileEngine::ClearCache() {
     m_cache.clear();
 }
 
+// A file's stamp proves it unchanged only once its write time is safely in the past: file
+// systems keep write times coarsely, so a same-sized rewrite moments ago may keep the old stamp.
+// A recent file is read again and its bytes compared, which still spares the parse.
 std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* file,
                                                                  uint32_t& error) {
     static const auto kMissing = std::make_shared<const Document>(ProfileFile::ParseDocument({}));
@@ -146,19 +149,20 @@ std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* 
     ProfileFile::FileStamp stamp;
     error = ProfileFile::QueryStamp(path, stamp);
     if (error == 0) {
-        const auto cached = m_cache.find(path);
-        if (cached != m_cache.end() && cached->second.stamp == stamp) {
+        auto cached = m_cache.find(path);
+        if (cached != m_cache.end() && cached->second.stamp == stamp &&
+            !ProfileFile::IsRecent(stamp)) {
             return cached->second.document;
         }
         std::string bytes;
         error = ProfileFile::ReadWholeFile(path, bytes, stamp);
         if (error == 0) {
-            auto document = std::make_shared<const Document>(ProfileFile::ParseDocument(bytes));
-            if (m_cache.size() >= kMaxCachedFiles) {
-                m_cache.clear();
+            cached = m_cache.find(path);
+            if (cached != m_cache.end() && cached->second.bytes == bytes) {
+                cached->second.stamp = stamp;
+                return cached->second.document;
             }
-            m_cache[path] = CachedFile{stamp, document};
-            return document;
+            return Remember(path, stamp, std::move(bytes));
         }
     }
     m_cache.erase(path);
@@ -167,6 +171,16 @@ std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* 
         return kMissing;
     }
     return nullptr;
+}
+
+std::shared_ptr<const ProfileFile::Document> ProfileEngine::Remember(
+    const std::wstring& path, const ProfileFile::FileStamp& stamp, std::string bytes) {
+    auto document = std::make_shared<const Document>(ProfileFile::ParseDocument(bytes));
+    if (m_cache.size() >= kMaxCachedFiles && m_cache.find(path) == m_cache.end()) {
+        m_cache.clear();
+    }
+    m_cache[path] = CachedFile{stamp, std::move(bytes), document};
+    return document;
 }
 
 bool ProfileEngine::Save(const wchar_t* file, const Document& document) {
@@ -181,8 +195,7 @@ bool ProfileEngine::Save(const wchar_t* file, const Document& document) {
     }
     // Cache what a reader of the new file will see, not the edited tree: writing normalises
     // blanks and line breaks inside values.
-    m_cache[path] =
-        CachedFile{stamp, std::make_shared<const Document>(ProfileFile::ParseDocument(bytes))};
+    Remember(path, stamp, bytes);
     return true;
 }
 

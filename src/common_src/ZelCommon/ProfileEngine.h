@@ -39,12 +39,16 @@ private:
     using Document = ProfileFile::Document;
     struct CachedFile {
         ProfileFile::FileStamp stamp;
+        std::string bytes;
         std::shared_ptr<const Document> document;
     };
 
     // The file's parsed contents (empty when it does not exist), or null with the error code
     // when it cannot be read.
     std::shared_ptr<const Document> Load(const wchar_t* file, uint32_t& error);
+    std::shared_ptr<const Document> Remember(const std::wstring& path,
+                                             const ProfileFile::FileStamp& stamp,
+                                             std::string bytes);
     bool Save(const wchar_t* file, const Document& document);
 
     uint32_t GetStringLocked(const wchar_t* section, const wchar_t* key,

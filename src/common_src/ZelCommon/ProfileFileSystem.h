@@ -10,7 +10,7 @@ namespace ZelCommon::Storage::ProfileFile {
 // even when its size and time happen to match the old one's.
 struct FileStamp {
     uint64_t size = 0;
-    int64_t modified = 0;
+    int64_t modified = 0;  // nanoseconds since 1970 natively, FILETIME ticks on Windows
     uint64_t identity = 0;
 
     bool operator==(const FileStamp&) const = default;
@@ -24,6 +24,10 @@ uint32_t ReadWholeFile(const std::wstring& path, std::string& bytes, FileStamp& 
 // Writes a temporary file beside `path` and renames it over `path`, so that readers see either
 // the old or the new contents; on failure the old file is untouched and no temporary remains.
 uint32_t ReplaceWholeFile(const std::wstring& path, std::string_view bytes, FileStamp& stamp);
+
+// Whether the stamp's write time is within about two seconds of now (or in the future): too
+// close for the time to tell two versions of the file apart.
+bool IsRecent(const FileStamp& stamp);
 
 // Text in the system's ANSI code page, as files without a byte-order mark are read.
 std::wstring AnsiToWide(std::string_view bytes);

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <ctime>
 #include <string>
 #include <utility>
 
@@ -177,6 +178,15 @@ uint32_t ReplaceWholeFile(const std::wstring& path, std::string_view bytes, File
     }
     stamp = StampOf(written);
     return 0;
+}
+
+bool IsRecent(const FileStamp& stamp) {
+    constexpr int64_t kSettleNanoseconds = 2100000000;
+    struct timespec now {};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    const int64_t nowNanoseconds =
+        static_cast<int64_t>(now.tv_sec) * 1000000000 + static_cast<int64_t>(now.tv_nsec);
+    return stamp.modified + kSettleNanoseconds > nowNanoseconds;
 }
 
 // Linux has no ANSI code page; its text files are UTF-8.

@@ -124,6 +124,13 @@ uint32_t ReplaceWholeFile(const std::wstring& path, std::string_view bytes, File
     return 0;
 }
 
+bool IsRecent(const FileStamp& stamp) {
+    constexpr int64_t kSettleTicks = 21000000;  // 2.1 s in 100 ns ticks
+    FILETIME now{};
+    GetSystemTimeAsFileTime(&now);
+    return stamp.modified + kSettleTicks > TicksOf(now);
+}
+
 std::wstring AnsiToWide(std::string_view bytes) {
     if (bytes.empty()) {
         return {};
