@@ -50,13 +50,6 @@ std::wstring_view TrimEnd(std::wstring_view text) {
     return text;
 }
 
-std::wstring_view TrimStart(std::wstring_view text) {
-    while (!text.empty() && IsProfileSpace(text.front())) {
-        text.remove_prefix(1);
-    }
-    return text;
-}
-
 bool IsLineBreak(wchar_t c) {
     return c == L'\n' || c == L'\r';
 }
@@ -76,7 +69,7 @@ void AddLine(Document& document, std::wstring_view line, bool& lastNameEmpty, bo
     const size_t equals = line.find(L'=');
     if (equals != std::wstring_view::npos) {
         name = TrimEnd(line.substr(0, equals));
-        value = UpToZero(TrimStart(line.substr(equals + 1)));
+        value = UpToZero(TrimLeadingProfileSpaces(line.substr(equals + 1)));
     }
     // A second nameless line in a row is dropped, as the profile functions do.
     if (name.empty() && haveLast && lastNameEmpty) {
@@ -111,8 +104,15 @@ bool IsProfileSpace(wchar_t c) {
     return (c >= 0x09 && c <= 0x0D) || c == 0x1A || c == 0x20;
 }
 
+std::wstring_view TrimLeadingProfileSpaces(std::wstring_view text) {
+    while (!text.empty() && IsProfileSpace(text.front())) {
+        text.remove_prefix(1);
+    }
+    return text;
+}
+
 std::wstring_view TrimProfileSpaces(std::wstring_view text) {
-    return TrimEnd(TrimStart(text));
+    return TrimEnd(TrimLeadingProfileSpaces(text));
 }
 
 // Only ASCII letters match regardless of case: the Win32 functions tell "\u00C4" from

@@ -37,6 +37,7 @@ struct Document {
 // file character (^Z).
 bool IsProfileSpace(wchar_t c);
 std::wstring_view TrimProfileSpaces(std::wstring_view text);
+std::wstring_view TrimLeadingProfileSpaces(std::wstring_view text);
 std::wstring FoldCase(std::wstring_view text);
 
 Document ParseDocument(std::string_view bytes);

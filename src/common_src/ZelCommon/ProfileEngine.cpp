@@ -1,5 +1,7 @@
 #include "common_src/ZelCommon/ProfileEngine.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <new>
 #include <string_view>
 
@@ -21,13 +23,6 @@ thread_local uint32_t t_lastError = 0;
 
 void SetLastError(uint32_t error) {
     t_lastError = error;
-}
-
-std::wstring_view TrimStartOnly(std::wstring_view text) {
-    while (!text.empty() && ProfileFile::IsProfileSpace(text.front())) {
-        text.remove_prefix(1);
-    }
-    return text;
 }
 
 // As lstrcpynW: at most size - 1 characters and a terminating zero (size must be at least 1).
@@ -476,7 +471,7 @@ bool ProfileEngine::SetEntry(const wchar_t* section, const wchar_t* key, const w
         SetLastError(kFileNotFound);
         return false;
     }
-    const std::wstring_view text = TrimStartOnly(value);
+    const std::wstring_view text = ProfileFile::TrimLeadingProfileSpaces(value);
     size_t sectionIndex = 0;
     size_t entryIndex = 0;
     const Section* found = FindSection(*document, section, sectionIndex);
@@ -489,13 +484,13 @@ bool ProfileEngine::SetEntry(const wchar_t* section, const wchar_t* key, const w
     if (entry) {
         changed.sections[sectionIndex].entries[entryIndex].value = std::wstring(text);
     } else {
-        ProfileFile::Entry added =
-            ProfileFile::MakeEntry(std::wstring(TrimStartOnly(key)), std::wstring(text));
+        ProfileFile::Entry added = ProfileFile::MakeEntry(
+            std::wstring(ProfileFile::TrimLeadingProfileSpaces(key)), std::wstring(text));
         if (found) {
             changed.sections[sectionIndex].entries.push_back(std::move(added));
         } else {
-            changed.sections.push_back(
-                ProfileFile::MakeSection(std::wstring(TrimStartOnly(section))));
+            changed.sections.push_back(ProfileFile::MakeSection(
+                std::wstring(ProfileFile::TrimLeadingProfileSpaces(section))));
             changed.sections.back().entries.push_back(std::move(added));
         }
     }
