@@ -1,12 +1,43 @@
 #include <windows.h>
 
+#include <fcntl.h>
+#include <io.h>
 #include <stdio.h>
 
 #include "lists/AtomicFile.h"
 
 namespace Orva::Lists::FileSystem {
+namespace {
+
+// Readers share delete access: a save may then rename a new file over the one being read, and
+// a read does not fail while a save's rename holds the file.
+FilePtr OpenForReading(const std::wstring& path) {
+    const HANDLE handle = ::CreateFileW(path.c_str(), GENERIC_READ,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+        return nullptr;
+    }
+    const int descriptor =
+        ::_open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_RDONLY | _O_BINARY);
+    if (descriptor == -1) {
+        ::CloseHandle(handle);
+        return nullptr;
+    }
+    // From here the descriptor owns the handle, and the stream the descriptor.
+    FILE* file = ::_fdopen(descriptor, "rb");
+    if (file == nullptr) {
+        ::_close(descriptor);
+    }
+    return FilePtr(file);
+}
+
+}  // namespace
 
 FilePtr OpenFile(const std::wstring& path, const wchar_t* mode) {
+    if (std::wstring_view(mode) == L"rb") {
+        return OpenForReading(path);
+    }
     return FilePtr(::_wfopen(path.c_str(), mode));
 }
 

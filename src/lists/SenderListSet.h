@@ -9,6 +9,7 @@
 #ifndef BOOST_THREAD_DONT_PROVIDE_INTERRUPTIONS
 #define BOOST_THREAD_DONT_PROVIDE_INTERRUPTIONS
 #endif
+#include <boost/thread/lock_types.hpp>
 #include <boost/thread/shared_mutex.hpp>
 
 #include "lists/ListKinds.h"
