@@ -111,9 +111,21 @@ class InstalledBundleTest : public StringLoaderTest {
 protected:
     void SetUp() override {
         ASSERT_FALSE(SourceRoot().empty());
+        // File by file: under mingw and Wine a recursive fs::copy left the target empty and
+        // reported no error.
+        const fs::path target(ResourceFolder());
         std::error_code error;
-        fs::create_directories(fs::path(ResourceFolder()), error);
-        fs::copy(BundleFolder(), fs::path(ResourceFolder()), fs::copy_options::recursive, error);
+        for (const auto& item : fs::recursive_directory_iterator(BundleFolder())) {
+            const fs::path to = target / fs::relative(item.path(), BundleFolder());
+            if (item.is_directory()) {
+                fs::create_directories(to, error);
+            } else {
+                fs::create_directories(to.parent_path(), error);
+                fs::copy_file(item.path(), to, fs::copy_options::overwrite_existing, error);
+            }
+            ASSERT_FALSE(error) << error.message();
+        }
+        ASSERT_TRUE(fs::exists(target / "en-US" / "StringTable.ini"));
         ASSERT_FALSE(error) << error.message();
     }
     std::wstring Load(uint32_t lcid, const std::wstring& id) {
