@@ -19,4 +19,14 @@ void ApplySenderLists(CWListSet& approved, CBListSet& blocked, const std::wstrin
     notifier.SenderListsChanged();
 }
 
+std::wstring EncodingsPath(const std::wstring& dataFolder) {
+    return ZelCommon::Path::ChildFile(dataFolder, kEncodingsFileName);
+}
+
+void ApplyEncodings(const CEncodingSet& encodings, const std::wstring& dataFolder,
+                    IListChangeNotifier& notifier) {
+    encodings.Save(EncodingsPath(dataFolder));
+    notifier.EncodingsChanged();
+}
+
 }  // namespace Orva::Lists

@@ -18,12 +18,16 @@ public:
         approvedOnDisk = Testing::ReadBytes(ApprovedListPath(m_folder));
         blockedOnDisk = Testing::ReadBytes(BlockedListPath(m_folder));
     }
-    void EncodingsChanged() override { ++encodings; }
+    void EncodingsChanged() override {
+        ++encodings;
+        encodingsOnDisk = Testing::ReadBytes(EncodingsPath(m_folder));
+    }
 
     int senderLists = 0;
     int encodings = 0;
     std::string approvedOnDisk;
     std::string blockedOnDisk;
+    std::string encodingsOnDisk;
 
 private:
     std::wstring m_folder;
@@ -45,6 +49,20 @@ TEST(SenderLists, Apply_SavesBothFilesBeforeTellingTheAgentOnce) {
     EXPECT_EQ(0, notifier.encodings);
     EXPECT_NE(std::string::npos, notifier.approvedOnDisk.find("<WL_REC><SN_ATTR>F<\\SN_ATTR>"));
     EXPECT_EQ(std::string(Testing::kMark) + Testing::kHeader + "\n", notifier.blockedOnDisk);
+}
+
+TEST(SenderLists, ApplyEncodings_SavesTheFileBeforeTellingTheAgent) {
+    Testing::ListTempFolder folder;
+    CEncodingSet encodings;
+    encodings.AddGroup(L"Thai", EncodingGroup{true, {874}});
+    RecordingNotifier notifier(folder.Path());
+    ApplyEncodings(encodings, folder.Path(), notifier);
+    EXPECT_EQ(0, notifier.senderLists);
+    EXPECT_EQ(1, notifier.encodings);
+    EXPECT_EQ(std::string(Testing::kMark) + Testing::kHeader + "\n0\nThai\t1\t874\n",
+              notifier.encodingsOnDisk);
+    EXPECT_EQ(ZelCommon::Path::ChildFile(folder.Path(), L"BlockEncodings.dat"),
+              EncodingsPath(folder.Path()));
 }
 
 }  // namespace
