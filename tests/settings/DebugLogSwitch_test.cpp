@@ -52,11 +52,18 @@ TEST_F(DebugLogSwitchTest, AgentLog_NamesTheFile) {
     EXPECT_FALSE(ZelCommon::Path::FileExists(DatedFile(L"ORVAAgent.log")));
 }
 
-TEST_F(DebugLogSwitchTest, BlanksAroundOne_AreTrimmedByTheProfileRead) {
-    t.SetInstall(SettingId::InstallDebug, L"  1  ");
+class DebugLogSwitchOn : public DebugLogSwitchTest,
+                         public testing::WithParamInterface<const wchar_t*> {};
+
+// The profile read trims blanks and one pair of surrounding quotes before the comparison.
+TEST_P(DebugLogSwitchOn, ValueReadingOne_SwitchesTheLogOn) {
+    t.SetInstall(SettingId::InstallDebug, GetParam());
     EXPECT_TRUE(SwitchOnDebugLog(t.store, LogFolder(), log));
     EXPECT_TRUE(log.IsLogOn());
 }
+
+INSTANTIATE_TEST_SUITE_P(Values, DebugLogSwitchOn,
+                         testing::Values(L"1", L"  1  ", L"\t1", L"\"1\"", L"'1'"));
 
 class DebugLogSwitchOff : public DebugLogSwitchTest,
                           public testing::WithParamInterface<const wchar_t*> {};

@@ -73,8 +73,9 @@ int RunSettingsCommand(std::span<const std::wstring> args, ITextSink& out, IText
         err.Write(L"orvactl: note: " + installFile + L" does not exist; no presets apply\n");
     }
 
-    if (!ZelCommon::Path::FolderExists(folders->user) &&
-        !ZelCommon::Path::CreateFolderWithParents(folders->user)) {
+    const bool userPathTaken =
+        ZelCommon::Path::FolderExists(folders->user) || ZelCommon::Path::FileExists(folders->user);
+    if (!userPathTaken && !ZelCommon::Path::CreateFolderWithParents(folders->user)) {
         return ReportFailure(err, L"user folder " + folders->user + L": cannot be created");
     }
     if (const auto problem = WhyNotFolder(folders->user)) {

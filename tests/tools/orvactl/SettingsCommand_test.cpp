@@ -180,6 +180,14 @@ TEST_F(SettingsCommandTest, UserFileThatIsAFolder_Fails) {
     EXPECT_NE(run.err.find(L"folder"), std::wstring::npos);
 }
 
+TEST_F(SettingsCommandTest, UserFolderThatIsAFile_Fails) {
+    const std::wstring file = temp.File(L"plain.txt");
+    ASSERT_EQ(RunTool({L"ini", L"set", file, L"S", L"K", L"V"}).exitCode, kExitOk);
+    const auto run = RunTool({L"settings", L"--install-dir", installDir, L"--user-dir", file});
+    EXPECT_EQ(run.exitCode, kExitFailure);
+    EXPECT_NE(run.err.find(L"not a folder"), std::wstring::npos);
+}
+
 TEST_F(SettingsCommandTest, InstallFolderWithoutIni_NotesItAndShowsDefaults) {
     const std::wstring bare = temp.Folder(L"bare");
     ZelCommon::Path::CreateFolderWithParents(bare);
