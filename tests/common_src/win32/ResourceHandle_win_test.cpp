@@ -11,15 +11,23 @@
 namespace ZelCommon::Win32 {
 namespace {
 
-// A module loaded as data is mapped for its resources: the version resource of this program is
-// found through the handle, and the module is not the running program's own handle.
-TEST(ResourceHandleWin, ProgramFile_LoadsAsDataWithItsResources) {
+// A module loaded as data is mapped for its resources only: the version resource of a copy of
+// kernel32.dll, under the resource module's name, is found through the handle.
+TEST(ResourceHandleWin, ModuleCopy_LoadsAsDataWithItsResources) {
+    Orva::Testing::TempFolder temp;
+    const std::wstring copy = temp.File(L"ORVA_WLMA.dll.mui");
+    wchar_t system[MAX_PATH] = {};
+    ASSERT_NE(::GetSystemDirectoryW(system, MAX_PATH), 0u);
+    ASSERT_TRUE(
+        ::CopyFileW((std::wstring(system) + L"\\kernel32.dll").c_str(), copy.c_str(), TRUE));
+
     ResourceHandle handle;
-    ASSERT_TRUE(handle.Load(L"C:\\windows\\system32\\kernel32.dll"));
+    ASSERT_TRUE(handle.Load(copy));
 
     const auto module = static_cast<HMODULE>(handle.Module());
     EXPECT_NE(module, ::GetModuleHandleW(L"kernel32.dll"));
     EXPECT_NE(::FindResourceW(module, MAKEINTRESOURCEW(1), MAKEINTRESOURCEW(16)), nullptr);
+    EXPECT_EQ(handle.Path(), copy);
 }
 
 TEST(ResourceHandleWin, TextFile_IsNoModule) {
@@ -32,18 +40,16 @@ TEST(ResourceHandleWin, TextFile_IsNoModule) {
     EXPECT_FALSE(handle.IsLoaded());
 }
 
-TEST(ResourceHandleWin, Reset_FreesTheMapping) {
-    Orva::Testing::TempFolder temp;
-    const std::wstring copy = temp.File(L"ORVA_WLMA.dll.mui");
-    ASSERT_TRUE(
-        ::CopyFileW(Platform::SystemProcessContext().ModuleFilePath().c_str(), copy.c_str(), TRUE));
+TEST(ResourceHandleWin, Reset_ForgetsModuleAndPath) {
     ResourceHandle handle;
-    ASSERT_TRUE(handle.Load(copy));
+    ASSERT_TRUE(handle.Load(Platform::SystemProcessContext().ModuleFilePath()));
+    ASSERT_NE(handle.Module(), nullptr);
 
     handle.Reset();
 
-    // Windows refuses to delete a file that is mapped; once freed it can go.
-    EXPECT_TRUE(::DeleteFileW(copy.c_str())) << ::GetLastError();
+    EXPECT_FALSE(handle.IsLoaded());
+    EXPECT_EQ(handle.Module(), nullptr);
+    EXPECT_EQ(handle.Path(), L"");
 }
 
 }  // namespace
