@@ -3,16 +3,22 @@
 #include "CommandErrors.h"
 #include "IniCommands.h"
 #include "SettingsCommand.h"
+#include "StringsCommand.h"
 
 namespace Orva::Orvactl {
 
-std::wstring HelpText() {
-    return LR"(Usage: orvactl COMMAND ...
+namespace {
 
-Reads and writes the add-in's ini files with the same profile functions the add-in uses,
-and shows the settings a user gets from a deployment.
+constexpr std::wstring_view kIntroHelp =
+    LR"(Usage: orvactl COMMAND ...
 
-ini commands (FILE is an ini file; section and key names are not case-sensitive):
+Reads and writes the add-in's ini files and checks its string tables with the same code
+the add-in uses, and shows the settings a user gets from a deployment.
+
+)";
+
+constexpr std::wstring_view kIniHelp =
+    LR"(ini commands (FILE is an ini file; section and key names are not case-sensitive):
   orvactl ini get FILE SECTION KEY [DEFAULT]     print the value (DEFAULT, else empty, if absent);
                                                  blanks around the value are trimmed, and
                                                  values are read as the add-in reads them
@@ -25,7 +31,10 @@ ini commands (FILE is an ini file; section and key names are not case-sensitive)
   orvactl ini sections FILE                      list the section names, one a line
   orvactl ini keys FILE SECTION                  list the section's key names, one a line
 
-settings command:
+)";
+
+constexpr std::wstring_view kSettingsHelp =
+    LR"(settings command:
   orvactl settings --install-dir DIR --user-dir DIR
       Applies the presets of DIR/ORVA_WLM.ini (the installation settings file) to the
       per-user settings file ORVA_WLM.ini in the user folder, exactly as the add-in does
@@ -39,15 +48,29 @@ settings command:
                  (EnableWexor 2 means "not chosen"; SecurityLevel follows it)
         default  not in the per-user file: the built-in default applies
 
-  orvactl --help                                 show this text
+)";
+
+constexpr std::wstring_view kClosingHelp =
+    LR"(
+  orvactl --help                                 show this text (also after a command)
 
 Exit status: 0 on success, 1 when a file or folder cannot be read or written (a missing
-folder, a FILE that is a folder, a missing file for the reading commands), 2 on bad
-arguments. Messages go to the standard error.
+folder, a FILE that is a folder, a missing file for the reading commands) or a check finds
+problems, 2 on bad arguments. Messages go to the standard error.
 
 Output is UTF-8. On Windows a console shows the text as Unicode whatever its code page;
 output redirected to a file or a pipe is UTF-8 without a byte-order mark.
 )";
+
+}  // namespace
+
+std::wstring HelpText() {
+    std::wstring text(kIntroHelp);
+    text += kIniHelp;
+    text += kSettingsHelp;
+    text += StringsHelpText();
+    text += kClosingHelp;
+    return text;
 }
 
 int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink& err,
@@ -69,6 +92,9 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
     }
     if (args[0] == L"settings") {
         return RunSettingsCommand(rest, out, err, api);
+    }
+    if (args[0] == L"strings") {
+        return RunStringsCommand(rest, out, err, api);
     }
     return ReportUsageError(err, L"unknown command: " + args[0]);
 }
