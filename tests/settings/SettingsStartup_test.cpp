@@ -1,0 +1,100 @@
+#include "settings/SettingsStartup.h"
+
+#include <gtest/gtest.h>
+
+#include "TempFolder.h"
+#include "common_src/ZelCommon/MemoryRegistry.h"
+#include "common_src/ZelCommon/Registry.h"
+#include "common_src/fakes/FakeClock.h"
+#include "common_src/fakes/FakeProcessContext.h"
+#include "common_src/platform/Path.h"
+
+namespace Orva::Settings {
+namespace {
+
+using ZelCommon::Storage::SystemProfileApi;
+
+class SettingsStartupTest : public testing::Test {
+protected:
+    SettingsStartupTest() {
+        ZelCommon::Path::CreateFolderWithParents(addinFolder);
+        process.SetModuleFilePath(addinFolder + L"ORVA_WLMA.dll");
+        process.SetCommonAppDataFolder(temp.Folder(L"ProgramData"));
+        ZelCommon::Library::SetHiddenFunctionsEnabled(false);
+    }
+    ~SettingsStartupTest() override { ZelCommon::Library::SetHiddenFunctionsEnabled(false); }
+
+    void SetInstall(SettingId id, const wchar_t* value) {
+        const SettingEntry& entry = Entry(id);
+        SystemProfileApi().WriteString(std::wstring(entry.section).c_str(),
+                                       std::wstring(entry.key).c_str(), value,
+                                       (addinFolder + L"ORVA_WLM.ini").c_str());
+    }
+    StartedSettings Start(bool windows64 = false) {
+        return StartAddinSettings(process, registry, SystemProfileApi(), windows64, L"3.1.0.7",
+                                  log);
+    }
+
+    Testing::TempFolder temp;
+    std::wstring addinFolder = temp.Folder(L"Addin");
+    ZelCommon::Fakes::FakeProcessContext process;
+    ZelCommon::Storage::MemoryRegistry registry;
+    ZelCommon::Fakes::FakeClock clock{ZelCommon::Fakes::FakeClock::At(2024, 1, 31, 9)};
+    ZelCommon::Fakes::FakeDebuggerOutput debugger;
+    ZelCommon::Library::DebugLog log{clock, process, debugger};
+};
+
+TEST_F(SettingsStartupTest, FirstStart_CreatesTheUserFolderAndWritesEveryStartSetting) {
+    SetInstall(SettingId::InstallProtectLevel, L"3");
+
+    const StartedSettings started = Start();
+
+    EXPECT_TRUE(ZelCommon::Path::FolderExists(started.paths.userFolder));
+    EXPECT_EQ(started.paths.identity, L"Default");
+    EXPECT_FALSE(started.logSwitchedOn);
+    EXPECT_FALSE(log.IsLogOn());
+    EXPECT_EQ(started.startCount, 1);
+    SettingsStore store(SystemProfileApi(), started.files);
+    EXPECT_EQ(store.GetString(SettingId::ProtectLevel), L"3");
+    EXPECT_EQ(store.GetInt(SettingId::SettedPLevel), 1);
+    EXPECT_EQ(store.GetString(SettingId::ORVAWLMVer), L"3.1.0.7");
+    EXPECT_EQ(store.GetString(SettingId::VersionDeployVersion), L"3.1.0.7");
+    EXPECT_EQ(store.GetString(SettingId::VersionPname), L"orva");
+}
+
+TEST_F(SettingsStartupTest, SecondStart_CountsAgainAndKeepsTheUsersChoice) {
+    SetInstall(SettingId::InstallProtectLevel, L"3");
+    const StartedSettings first = Start();
+    SettingsStore(SystemProfileApi(), first.files).SetInt(SettingId::ProtectLevel, 1);
+
+    const StartedSettings second = Start();
+
+    EXPECT_EQ(second.startCount, 2);
+    EXPECT_EQ(SettingsStore(SystemProfileApi(), second.files).GetString(SettingId::ProtectLevel),
+              L"1");
+}
+
+TEST_F(SettingsStartupTest, DebugOne_LogsThePresetsItApplies) {
+    SetInstall(SettingId::InstallDebug, L"1");
+    SetInstall(SettingId::InstallPurgeDays, L"9");
+
+    const StartedSettings started = Start();
+
+    ASSERT_TRUE(started.logSwitchedOn);
+    ASSERT_TRUE(log.IsLogOn());
+    bool sawPreset = false;
+    for (const std::wstring& line : debugger.Texts()) {
+        sawPreset = sawPreset || line.find(L"[General] PurgeDays=9 applied") != std::wstring::npos;
+    }
+    EXPECT_TRUE(sawPreset);
+}
+
+TEST_F(SettingsStartupTest, Windows64_PutsTheIdentificationInTheOrvaOe64Section) {
+    const StartedSettings started = Start(true);
+    EXPECT_EQ(ZelCommon::Storage::ReadProfileString(SystemProfileApi(), started.files.versionFile,
+                                                    L"ORVA_OE64", L"class", L"<missing>"),
+              L"WLMA");
+}
+
+}  // namespace
+}  // namespace Orva::Settings
