@@ -8,6 +8,11 @@
 #include "common_src/ZelCommon/StorageException.h"
 #include "settings/StringLoaderServices.h"
 
+// <windows.h> turns LoadString into LoadStringW in every file that includes it; the class keeps
+// its own name, and answers to the renamed call as well.
+#pragma push_macro("LoadString")
+#undef LoadString
+
 // Localised texts by string id, from the "StringTable.ini" of the best locale folder under the
 // product's resource folder; also finds the product's registry key and the on-line help
 // address. No operation throws: failures are logged and give an empty text or a cleared flag.
@@ -25,6 +30,11 @@ public:
     // The text of `id` with its "\n" and "\r" escapes turned into line breaks; empty when the
     // id is missing or empty. Sets the success flag.
     std::wstring LoadString(const std::wstring& id);
+#ifdef _WIN32
+    std::wstring LoadStringW(const std::wstring& id) {
+        return LoadString(id);
+    }
+#endif
 
     // The locale folder under the resource folder, chosen as Initialize chooses the table, but
     // testing for the folder; empty when not even the "en-US" folder exists.
@@ -40,13 +50,25 @@ public:
     std::wstring GetORVA_OLH_URL(const std::wstring& topic, const std::wstring& settingsFileName,
                                  const std::wstring& base);
 
-    bool Succeeded() const { return m_succeeded; }
-    const std::wstring& Section() const { return m_section; }
-    const std::wstring& LocaleName() const { return m_localeName; }
-    const std::wstring& TablePath() const { return m_tablePath; }
+    bool Succeeded() const {
+        return m_succeeded;
+    }
+    const std::wstring& Section() const {
+        return m_section;
+    }
+    const std::wstring& LocaleName() const {
+        return m_localeName;
+    }
+    const std::wstring& TablePath() const {
+        return m_tablePath;
+    }
     // The text of the last successful LoadString.
-    const std::wstring& LastString() const { return m_lastString; }
-    const wchar_t* LastStringText() const { return m_lastString.c_str(); }
+    const std::wstring& LastString() const {
+        return m_lastString;
+    }
+    const wchar_t* LastStringText() const {
+        return m_lastString.c_str();
+    }
 
     static constexpr std::wstring_view kDefaultLocale = L"en-US";
     static constexpr std::wstring_view kTableFileName = L"StringTable.ini";
@@ -95,3 +117,5 @@ private:
     std::wstring m_lastString;
     bool m_succeeded = false;
 };
+
+#pragma pop_macro("LoadString")
