@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "StringLoaderFixture.h"
 
 namespace Orva::Testing {
@@ -242,6 +245,29 @@ TEST_F(ZelResourceStringLoaderTest, UnknownSystemLocale_IsTreatedAsMissing) {
     ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
 
     EXPECT_EQ(loader.LocaleName(), L"en-US");
+}
+
+TEST_F(ZelResourceStringLoaderTest, LongText_ComesBackWhole) {
+    const std::wstring text(5000, L'x');
+    WriteTable(L"en-US", L"IDS_LONG", text + L"\\nend");
+    ZelResourceStringLoader loader(Services());
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LoadString(L"IDS_LONG"), text + L"\nend");
+}
+
+TEST_F(ZelResourceStringLoaderTest, DamagedTable_IsRefusedWithoutHarm) {
+    ZelCommon::Path::CreateFolderWithParents(ResourceFolder() + L"en-US");
+    {
+        std::ofstream garbage(std::filesystem::path(TableOf(L"en-US")), std::ios::binary);
+        for (int i = 0; i < 4096; ++i) {
+            garbage.put(static_cast<char>((i * 7919) & 0xFF));
+        }
+    }
+    ZelResourceStringLoader loader(Services());
+
+    EXPECT_FALSE(loader.Initialize(L"ORVA_WLM"));
+    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"");
 }
 
 }  // namespace
