@@ -44,8 +44,9 @@ protected:
 };
 
 TEST_F(StringBundleTest, EnglishTable_HasATextForEveryIdTheSourcesLoad) {
-    // A string id in a wide literal anywhere under src/ is an id the add-in loads by name.
-    const std::regex literal(R"re(L"(IDS_[A-Z0-9_]+)")re");
+    // A string id in a string literal anywhere under src/ (L"IDS_X", _T("IDS_X")) is an id the
+    // add-in loads by name; resource headers define numeric ids without quotes.
+    const std::regex literal(R"re("(IDS_[A-Z0-9_]+)")re");
     std::set<std::wstring> loaded;
     for (const auto& item : fs::recursive_directory_iterator(SourceRoot() / "src")) {
         const std::string extension = item.path().extension().string();
