@@ -1,5 +1,7 @@
 #include "settings/SettingsStore.h"
 
+#include <utility>
+
 #include "common_src/platform/TextCodec.h"
 #include "common_src/platform/WideFormat.h"
 #include "settings/ProfileLists.h"

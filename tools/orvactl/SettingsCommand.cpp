@@ -70,7 +70,9 @@ int RunSettingsCommand(std::span<const std::wstring> args, ITextSink& out, IText
             return ReportFailure(err, *problem);
         }
     } else {
-        err.Write(L"orvactl: note: " + installFile + L" does not exist; no presets apply\n");
+        err.Write(L"orvactl: note: " + installFile +
+                  L" does not exist; only the built-in presets (NotifyIcon 0, "
+                  L"EnableInTheCloud 1) apply\n");
     }
 
     const bool userPathTaken =

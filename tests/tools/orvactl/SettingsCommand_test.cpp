@@ -193,7 +193,8 @@ TEST_F(SettingsCommandTest, InstallFolderWithoutIni_NotesItAndShowsDefaults) {
     ZelCommon::Path::CreateFolderWithParents(bare);
     const auto run = RunTool({L"settings", L"--install-dir", bare, L"--user-dir", userDir});
     EXPECT_EQ(run.exitCode, kExitOk);
-    EXPECT_NE(run.err.find(L"no presets"), std::wstring::npos);
+    EXPECT_NE(run.err.find(L"does not exist"), std::wstring::npos);
+    EXPECT_EQ(Find(ParseTable(run.out), L"General", L"NotifyIcon")->source, L"preset");
     EXPECT_EQ(Find(ParseTable(run.out), L"General", L"ProtectLevel")->value, L"2");
 }
 
