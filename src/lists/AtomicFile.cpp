@@ -40,8 +40,18 @@ std::optional<std::string> ReadWholeFile(const std::wstring& path) {
     if (!file) {
         return std::nullopt;
     }
+    // One buffer of the file's size spares the heap a chain of growing copies; the loop still
+    // reads whatever the file holds if it changes size meanwhile.
     std::string bytes;
-    char chunk[64 * 1024];
+    if (std::fseek(file.get(), 0, SEEK_END) == 0) {
+        const long size = std::ftell(file.get());
+        if (size > 0) {
+            bytes.resize(static_cast<size_t>(size));
+        }
+        std::rewind(file.get());
+    }
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+    char chunk[16 * 1024];
     size_t got = 0;
     while ((got = std::fread(chunk, 1, sizeof chunk, file.get())) > 0) {
         bytes.append(chunk, got);

@@ -1,6 +1,5 @@
 #include "lists/ListPersist.h"
 
-#include "common_src/platform/TextCodec.h"
 #include "lists/ListText.h"
 
 namespace Orva::Lists {
@@ -17,7 +16,8 @@ void AppendTagged(std::string& record, std::string_view open, std::wstring_view 
 
 template <class Kind>
 void CListSenderName<Kind>::Parse(std::string_view record, SenderEntry& entry) const {
-    entry.name = ZelCommon::Text::Utf8ToWide(ExtractTaggedValue(record, kNameOpen, kNameClose));
+    const std::string_view value = ExtractTaggedValue(record, kNameOpen, kNameClose);
+    entry.name = IsStorableUtf8(value) ? DecodeValue(value) : std::wstring();
 }
 
 template <class Kind>
@@ -34,7 +34,11 @@ const CListSenderName<Kind>& CListSenderName<Kind>::Instance() {
 template <class Kind>
 void CListSenderAddr<Kind>::Parse(std::string_view record, SenderEntry& entry) const {
     const std::string_view value = ExtractTaggedValue(record, kAddressOpen, kAddressClose);
-    entry.address = ZelCommon::Text::Utf8ToWide(value);
+    if (!IsStorableUtf8(value)) {
+        entry.address.clear();
+        return;
+    }
+    entry.address = DecodeValue(value);
     if (value.find("**") != std::string_view::npos) {
         entry.address = CollapseStars(entry.address);
     }

@@ -9,7 +9,8 @@
 namespace Orva::Lists {
 
 // How one field of an entry is read from a record and written into one. A shared instance of
-// each attribute class stands for its field while a list is read or written.
+// each attribute class stands for its field while a list is read or written. A value that could
+// not be written back unchanged (a tag text, a control character) is read as empty.
 template <class Kind>
 class IListPersist {
 public:

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "common_src/platform/TextCodec.h"
 #include "lists/ListKinds.h"
 
 namespace Orva::Lists {
@@ -125,6 +126,43 @@ bool IsStorableValue(std::wstring_view value) {
         }
     }
     return !mayHoldSurrogate || HasOnlyScalarValues(value);
+}
+
+bool IsStorableUtf8(std::string_view value) {
+    if (!value.empty() && (IsBlank(value.front()) || IsBlank(value.back()))) {
+        return false;
+    }
+    bool control = false;
+    for (const char c : value) {
+        const auto byte = static_cast<unsigned char>(c);
+        control |= (byte < 0x20) & (byte != 0x09);
+    }
+    if (control) {
+        return false;
+    }
+    if (value.find('<') != std::string_view::npos) {
+        for (const std::string_view tag : kEveryTag) {
+            if (value.find(tag) != std::string_view::npos) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+std::wstring DecodeValue(std::string_view utf8) {
+    bool ascii = true;
+    for (const char c : utf8) {
+        ascii &= static_cast<unsigned char>(c) < 0x80;
+    }
+    if (!ascii) {
+        return ZelCommon::Text::Utf8ToWide(utf8);
+    }
+    std::wstring text(utf8.size(), L'\0');
+    for (size_t i = 0; i < utf8.size(); ++i) {
+        text[i] = static_cast<wchar_t>(utf8[i]);
+    }
+    return text;
 }
 
 void AppendUtf8(std::string& out, std::wstring_view text) {

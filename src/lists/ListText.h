@@ -20,6 +20,13 @@ std::wstring CollapseStars(std::wstring_view address);
 // space or tab at either end (reading trims them).
 bool IsStorableValue(std::wstring_view value);
 
+// The wide text of a UTF-8 value; plain ASCII, the common case, is widened without decoding.
+std::wstring DecodeValue(std::string_view utf8);
+
+// IsStorableValue for a value still in UTF-8, as read from a file: the decoder turns broken
+// sequences into U+FFFD and never yields a lone surrogate, so only the ASCII rules remain.
+bool IsStorableUtf8(std::string_view value);
+
 // Appends `text` to `out` as UTF-8; what is not a scalar value becomes U+FFFD.
 void AppendUtf8(std::string& out, std::wstring_view text);
 

@@ -17,7 +17,7 @@ namespace Orva::Lists {
 template <class Kind>
 struct SenderListFile {
     // The entry of one line (UTF-8), or an empty address when the line holds no record of this
-    // list. A value that could not be written back unchanged (a tag text in it) drops the line.
+    // list. A value that could not be written back unchanged (a tag text in it) is dropped.
     static SenderEntry ParseLine(std::string_view line) {
         SenderEntry entry;
         const std::string_view record =
@@ -26,13 +26,8 @@ struct SenderListFile {
             return entry;
         }
         CListSenderAddr<Kind>::Instance().Parse(record, entry);
-        if (entry.address.empty() || !IsStorableValue(entry.address)) {
-            entry.address.clear();
-            return entry;
-        }
-        CListSenderName<Kind>::Instance().Parse(record, entry);
-        if (!IsStorableValue(entry.name)) {
-            entry.address.clear();
+        if (!entry.address.empty()) {
+            CListSenderName<Kind>::Instance().Parse(record, entry);
         }
         return entry;
     }

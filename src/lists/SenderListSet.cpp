@@ -1,6 +1,5 @@
 #include "lists/SenderListSet.h"
 
-#include <mutex>
 #include <ranges>
 
 #include "common_src/platform/TextCodec.h"
@@ -13,7 +12,7 @@ namespace {
 using ZelCommon::Library::LogInfo;
 using ZelCommon::Library::TheLog;
 
-// Both lists log under the blocked list's names, as the agent's log readers expect.
+// The approved twin is the same class, so both lists write the blocked list's log texts.
 constexpr const char* kLogSource = "BlackList";
 
 bool HoldsStar(const std::wstring& key) {
