@@ -10,7 +10,7 @@ StringLoaderServices SystemStringLoaderServices() {
                                 ZelCommon::Platform::SystemLocale(),
                                 ZelCommon::Platform::SystemProcessContext(),
                                 ZelCommon::Library::TheLog(),
-                                CComUtilSet::IsWindows64(),
+                                [] { return CComUtilSet::IsWindows64(); },
                                 DefaultInstallFolder()};
 }
 

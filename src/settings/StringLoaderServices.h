@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "common_src/ZelCommon/ProfileApi.h"
@@ -19,8 +20,9 @@ struct StringLoaderServices {
     ZelCommon::Platform::ILocale& locale;
     ZelCommon::Platform::IProcessContext& process;
     ZelCommon::Library::DebugLog& log;
-    // Selects the registry view the product key is opened with.
-    bool windows64 = false;
+    // The 64-bit probe, asked each time the product key is opened to choose its registry view;
+    // none means a 32-bit Windows.
+    std::function<bool()> isWindows64;
     // The installation folder used when the registry does not name one; ends with a separator.
     std::wstring defaultInstallFolder;
 };

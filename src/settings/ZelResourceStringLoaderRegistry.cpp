@@ -17,7 +17,7 @@ std::wstring ZelResourceStringLoader::InstallFile() const {
 
 // The product is a 32-bit program: on a 64-bit Windows its key lives in the 32-bit view.
 int ZelResourceStringLoader::RegistryView() const {
-    return m_services.windows64 ? 1 : 0;
+    return m_services.isWindows64 && m_services.isWindows64() ? 1 : 0;
 }
 
 std::wstring ZelResourceStringLoader::ReadMachineValue(const std::wstring& keyPath,

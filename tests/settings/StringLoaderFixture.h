@@ -74,8 +74,13 @@ protected:
     }
 
     Settings::StringLoaderServices Services() {
-        return Settings::StringLoaderServices{
-            profile, registry, locale, process, log.Log(), windows64, DefaultInstallFolder()};
+        return Settings::StringLoaderServices{profile,
+                                              registry,
+                                              locale,
+                                              process,
+                                              log.Log(),
+                                              [this] { return windows64; },
+                                              DefaultInstallFolder()};
     }
     std::wstring DefaultInstallFolder() const { return temp.Folder(L"default-install"); }
 

@@ -36,6 +36,41 @@ TEST_F(StringLoaderLocationTest, NoInstallPathInTheRegistry_UsesTheDefaultFolder
                                              Native(L"ORVA/Resource/x86/]")));
 }
 
+// Records the access every key is opened with, and lets the in-memory registry answer.
+class AccessRecordingRegistry : public ZelCommon::Storage::MemoryRegistry {
+public:
+    int32_t OpenKey(ZelCommon::Storage::RegHandle parent, const wchar_t* subKey, uint32_t access,
+                    ZelCommon::Storage::RegHandle* result) override {
+        accesses.push_back(access);
+        return MemoryRegistry::OpenKey(parent, subKey, access, result);
+    }
+    std::vector<uint32_t> accesses;
+};
+
+TEST_F(StringLoaderLocationTest, ProductKey_IsReadFromThe32BitViewOnA64BitWindows) {
+    for (const bool on64 : {false, true}) {
+        AccessRecordingRegistry recording;
+        ZelCommon::Storage::Registry key(recording);
+        key.Create(ZelCommon::Storage::RegRoot::LocalMachine, kProductKey, 0);
+        key.SetString(L"ORVAInstallPath", InstallFolder());
+        int probes = 0;
+        const auto probe = [&probes, on64] {
+            ++probes;
+            return on64;
+        };
+        ZelResourceStringLoader loader(Settings::StringLoaderServices{
+            profile, recording, locale, process, log.Log(), probe, DefaultInstallFolder()});
+        EXPECT_EQ(probes, 0);
+
+        EXPECT_EQ(loader.GetResourcePath(), ResourceFolder());
+
+        EXPECT_EQ(probes, 1);
+        ASSERT_EQ(recording.accesses.size(), 1u);
+        EXPECT_EQ(recording.accesses[0] & ZelCommon::Storage::RegAccess::Wow64_32Key,
+                  on64 ? ZelCommon::Storage::RegAccess::Wow64_32Key : 0u);
+    }
+}
+
 TEST_F(StringLoaderLocationTest, ResourceFolder_FollowsTheLanguageChoice) {
     locale.SetSystemDefaultLcid(0x0C07);  // de-AT
     ZelCommon::Path::CreateFolderWithParents(ResourceFolder() + L"de-DE");
