@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "../../../tools/orvactl/Orvactl.h"
+#include "OrvactlRun.h"
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
 #include "settings/SourceRoot.h"
@@ -39,6 +40,14 @@ TEST(StringsCommand, ShippedEnglishAndGerman_AreComplete) {
         EXPECT_EQ(run.out, std::wstring(localeName) + L": 66 ids, complete\n");
         EXPECT_EQ(run.err, L"");
     }
+}
+
+TEST(StringsCommand, OrvactlDispatch_RunsTheCommandAndListsItInTheHelp) {
+    const Testing::OrvactlRun run = Testing::RunTool(
+        {L"strings", L"--locale", L"en-US", L"--resource-folder", Bundle(), L"IDS_OK"});
+    EXPECT_EQ(run.exitCode, kExitOk);
+    EXPECT_EQ(run.out, L"OK\n");
+    EXPECT_NE(HelpText().find(L"orvactl strings --locale NAME"), std::wstring::npos);
 }
 
 TEST(StringsCommand, OneId_PrintsItsTextWithRealLineBreaks) {
