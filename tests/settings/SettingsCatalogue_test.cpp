@@ -166,6 +166,78 @@ TEST(SettingsCatalogue, FindSetting_TellsTheReportSectionsApart) {
     EXPECT_EQ(FindSetting(SettingsFile::User, L"General", L"NoSuchKey"), std::nullopt);
 }
 
+// Every key of the per-user file, section by section, so that no row goes missing.
+TEST(SettingsCatalogue, UserFile_HoldsExactlyTheDocumentedKeys) {
+    const std::set<std::wstring> expected{L"General/AgentLog",
+                                          L"General/HiddenFunc",
+                                          L"General/ORVAStartTimes",
+                                          L"General/PurgeDays",
+                                          L"General/DeleteDeleted",
+                                          L"General/NotifyIcon",
+                                          L"General/AutoMoved",
+                                          L"General/AutoApprove",
+                                          L"General/GlobalLevel",
+                                          L"General/ProtectLevel",
+                                          L"General/EnableInTheCloud",
+                                          L"General/SexualLevel",
+                                          L"General/CommercialLevel",
+                                          L"General/FinancialLevel",
+                                          L"General/HealthLevel",
+                                          L"General/OtherLevel",
+                                          L"General/RacialLevel",
+                                          L"General/SpiritualLevel",
+                                          L"Wexor/EnableWexor",
+                                          L"Wexor/SecurityLevel",
+                                          L"Antispam/EngineVer",
+                                          L"Antispam/PatchVer",
+                                          L"Antispam/ORVAOEVer",
+                                          L"Antispam/ORVAWLMVer",
+                                          L"Antispam/EnableTBar",
+                                          L"RuleFile-Update/Interval",
+                                          L"RuleFile-Update/EnableSchedule",
+                                          L"RuleFile-Update/UpdateUI",
+                                          L"RuleFile-Update/LastUpdateTime",
+                                          L"RuleFile-Update/UpToDate",
+                                          L"RuleFile-Update/AUServer",
+                                          L"RuleFile-Update/EnableProxy",
+                                          L"RuleFile-Update/HTTPProxy",
+                                          L"RuleFile-Update/HTTPPort",
+                                          L"RuleFile-Update/ProxyUserName",
+                                          L"RuleFile-Update/ProxyPassword",
+                                          L"Statistics/RunningSince",
+                                          L"Statistics/ProcessedMsg",
+                                          L"Statistics/DetectedSpam",
+                                          L"Statistics/ReportedSpam",
+                                          L"Statistics/ReportedFP",
+                                          L"Statistics/EnableWTC",
+                                          L"Statistics/WTCWebServer",
+                                          L"UnsupportedMailServer/DontBother",
+                                          L"ReportSpam/Address",
+                                          L"ReportFP/Address",
+                                          L"ReportPhish/Address",
+                                          L"RuleFile-Update/SettedAUUrl",
+                                          L"RuleFile-Update/SettedEnableScheduleUpdate",
+                                          L"RuleFile-Update/SettedSecUpdateInterval",
+                                          L"RuleFile-Update/SettedUpdateUI",
+                                          L"General/SettedPLevel",
+                                          L"General/SettedEnableInTheCloud",
+                                          L"General/SettedAutoApprove",
+                                          L"General/SettedNotifyIcon",
+                                          L"General/SettedAutomove",
+                                          L"General/SettedPurgeDays",
+                                          L"General/SettedDeleteDeleted",
+                                          L"ReportSpam/SettedReportAddr",
+                                          L"ReportFP/SettedReportAddr",
+                                          L"ReportPhish/SettedReportAddr"};
+    std::set<std::wstring> actual;
+    for (const SettingEntry& entry : SettingsCatalogue()) {
+        if (entry.file == SettingsFile::User) {
+            actual.insert(std::wstring(entry.section) + L"/" + std::wstring(entry.key));
+        }
+    }
+    EXPECT_EQ(actual, expected);
+}
+
 TEST(SettingsCatalogue, IdentityNames_AreTheRegistryNames) {
     EXPECT_EQ(IdentityRegistry::kKey, L"Identities");
     EXPECT_EQ(IdentityRegistry::kLastUserId, L"Last User ID");
