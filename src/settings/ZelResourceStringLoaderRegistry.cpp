@@ -39,6 +39,10 @@ std::wstring ZelResourceStringLoader::GetOrvaRegPath() {
         files.installFile = InstallFile();
         const Orva::Settings::SettingsStore store(m_services.profile, files);
         std::wstring keyPath = store.GetString(Orva::Settings::SettingId::InstallOrvaReg);
+        if (keyPath.empty()) {
+            // An administrator who blanks the value means "the usual key", not the root.
+            keyPath = Orva::Settings::Entry(Orva::Settings::SettingId::InstallOrvaReg).defaultText;
+        }
         Log(L"ORVA registry path: [%s]", keyPath);
         return keyPath;
     } catch (...) {

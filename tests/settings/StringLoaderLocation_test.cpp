@@ -24,6 +24,14 @@ TEST_F(StringLoaderLocationTest, OrvaRegInTheInstallationFile_NamesTheProductKey
                                              Native(L"ORVA/Resource/x86/]")));
 }
 
+TEST_F(StringLoaderLocationTest, BlankOrvaReg_MeansTheUsualProductKey) {
+    WriteEntry(InstallFile(), L"General", L"OrvaReg", L"");
+    ZelResourceStringLoader loader(Services());
+
+    EXPECT_EQ(loader.GetOrvaRegPath(), kProductKey);
+    EXPECT_EQ(loader.GetResourcePath(), ResourceFolder());
+}
+
 TEST_F(StringLoaderLocationTest, NoInstallPathInTheRegistry_UsesTheDefaultFolder) {
     WriteEntry(InstallFile(), L"General", L"OrvaReg", L"SOFTWARE\\Missing");
     ZelResourceStringLoader loader(Services());
