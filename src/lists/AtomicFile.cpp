@@ -18,8 +18,8 @@ std::wstring TemporaryNameBeside(const std::wstring& path) {
     return path + ZelCommon::Text::Format(L".%u.%llx.tmp", counter.fetch_add(1), ticks);
 }
 
-// Windows refuses to replace a file that a reader (the agent) holds open without delete
-// sharing, so a rename that fails is tried again for a moment before the save gives up.
+// Windows refuses to rename over a file that a reader holds open; reads are short, so a
+// refused rename is tried again for a moment.
 bool RenameWithRetries(const std::wstring& from, const std::wstring& to) {
     constexpr int kAttempts = 25;
     for (int attempt = 1;; ++attempt) {
@@ -31,6 +31,16 @@ bool RenameWithRetries(const std::wstring& from, const std::wstring& to) {
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(4));
     }
+}
+
+bool WriteWholeFile(const std::wstring& path, std::string_view bytes) {
+    FileSystem::FilePtr file = FileSystem::OpenFile(path, L"wb");
+    if (!file) {
+        return false;
+    }
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    // fclose reports the errors of the last buffered write (a full disk shows up here).
+    return std::fclose(file.release()) == 0 && written;
 }
 
 }  // namespace
@@ -64,18 +74,18 @@ std::optional<std::string> ReadWholeFile(const std::wstring& path) {
 
 bool ReplaceFileContents(const std::wstring& path, std::string_view bytes) {
     const std::wstring temporary = TemporaryNameBeside(path);
-    FileSystem::FilePtr file = FileSystem::OpenFile(temporary, L"wb");
-    if (!file) {
-        return false;
-    }
-    bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    // fclose reports the errors of the last buffered write (a full disk shows up here).
-    written = std::fclose(file.release()) == 0 && written;
-    if (!written || !RenameWithRetries(temporary, path)) {
+    if (!WriteWholeFile(temporary, bytes)) {
         FileSystem::RemoveFile(temporary);
         return false;
     }
-    return true;
+    if (RenameWithRetries(temporary, path)) {
+        return true;
+    }
+    FileSystem::RemoveFile(temporary);
+    // A reader that keeps the file open makes Windows refuse the rename for good. The bytes just
+    // fitted on the disk, so rewriting the file in place, as a plain save does, keeps the change
+    // instead of losing it.
+    return FileSystem::IsRegularFile(path) && WriteWholeFile(path, bytes);
 }
 
 }  // namespace Orva::Lists

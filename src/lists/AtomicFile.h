@@ -13,7 +13,8 @@ std::optional<std::string> ReadWholeFile(const std::wstring& path);
 
 // Writes `bytes` to a new file beside `path` and renames it over `path`, so that a reader of
 // `path` (the agent) sees either the old or the new file whole, and a failed write (full disk,
-// crash) leaves the old file as it was. False when the file could not be replaced.
+// crash) leaves the old file as it was. Only when the rename is refused for good (a reader
+// holds the file open on Windows) is the file rewritten in place. False when nothing worked.
 bool ReplaceFileContents(const std::wstring& path, std::string_view bytes);
 
 namespace FileSystem {
@@ -28,6 +29,7 @@ FilePtr OpenFile(const std::wstring& path, const wchar_t* mode);
 // Renames `from` to `to`, replacing an existing `to` in one step.
 bool RenameReplacing(const std::wstring& from, const std::wstring& to);
 void RemoveFile(const std::wstring& path);
+bool IsRegularFile(const std::wstring& path);
 
 }  // namespace FileSystem
 

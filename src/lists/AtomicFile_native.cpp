@@ -23,4 +23,9 @@ void RemoveFile(const std::wstring& path) {
     std::filesystem::remove(ZelCommon::Text::WideToUtf8(path), ignored);
 }
 
+bool IsRegularFile(const std::wstring& path) {
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(ZelCommon::Text::WideToUtf8(path), ignored);
+}
+
 }  // namespace Orva::Lists::FileSystem

@@ -9,8 +9,8 @@
 namespace Orva::Lists::FileSystem {
 namespace {
 
-// Readers share delete access: a save may then rename a new file over the one being read, and
-// a read does not fail while a save's rename holds the file.
+// Readers share delete access, so that a read does not fail while a save's rename holds the
+// file.
 FilePtr OpenForReading(const std::wstring& path) {
     const HANDLE handle = ::CreateFileW(path.c_str(), GENERIC_READ,
                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
@@ -49,6 +49,11 @@ bool RenameReplacing(const std::wstring& from, const std::wstring& to) {
 
 void RemoveFile(const std::wstring& path) {
     ::DeleteFileW(path.c_str());
+}
+
+bool IsRegularFile(const std::wstring& path) {
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 }  // namespace Orva::Lists::FileSystem
