@@ -10,12 +10,15 @@ struct BlockedList {
     static constexpr std::string_view kRecordOpen = "<BL_REC>";
     static constexpr std::string_view kRecordClose = "<\\BL_REC>";
     static constexpr std::wstring_view kFileName = L"BlackList.dat";
+    // Asked before adding to this list an address that the other list holds.
+    static constexpr std::wstring_view kConflictMessageId = L"IDS_BLOCKLISTCONLICT_MSG";
 };
 
 struct ApprovedList {
     static constexpr std::string_view kRecordOpen = "<WL_REC>";
     static constexpr std::string_view kRecordClose = "<\\WL_REC>";
     static constexpr std::wstring_view kFileName = L"WhiteList.dat";
+    static constexpr std::wstring_view kConflictMessageId = L"IDS_APPROVELISTCONLICT_MSG";
 };
 
 inline constexpr std::string_view kNameOpen = "<SN_ATTR>";

@@ -2,7 +2,9 @@
 
 #include <cstdint>
 
+#include "lists/ListKinds.h"
 #include "lists/ListText.h"
+#include "lists/SenderListSet.h"
 
 namespace Orva::Lists {
 namespace {
@@ -137,6 +139,16 @@ SenderValidation ValidateSender(std::wstring_view name, std::wstring_view addres
         result.address = CollapseStars(result.address);
     }
     return result;
+}
+
+AddMessage MessageForAddResult(int addResult) {
+    if (addResult == kAddFull) {
+        return {L"IDS_LISTFULL_MSG", L"IDS_WARNING_CAPTION", static_cast<int>(kListLimit)};
+    }
+    if (addResult == kAddExisted) {
+        return {L"IDS_LISTEXISTED_MSG", L"IDS_WARNING_CAPTION", 0};
+    }
+    return {};
 }
 
 }  // namespace Orva::Lists

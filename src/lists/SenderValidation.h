@@ -32,6 +32,15 @@ struct SenderValidation {
     bool Accepted() const { return check == SenderCheck::Accepted; }
 };
 
+// What a page shows after Add: nothing for kAddAdded; for kAddFull the list-full message
+// formatted with 8000, for kAddExisted the already-listed message, both captioned as warnings.
+struct AddMessage {
+    std::wstring_view messageId;
+    std::wstring_view captionId;
+    int number = 0;
+};
+AddMessage MessageForAddResult(int addResult);
+
 // Every name and address passes here before it reaches a list.
 SenderValidation ValidateSender(std::wstring_view name, std::wstring_view address);
 

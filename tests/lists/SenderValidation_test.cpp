@@ -5,6 +5,8 @@
 #include <regex>
 #include <string>
 
+#include "lists/ListKinds.h"
+#include "lists/SenderListSet.h"
 #include "lists/SenderValidation.h"
 
 namespace Orva::Lists {
@@ -73,6 +75,23 @@ INSTANTIATE_TEST_SUITE_P(
         AddressCase{"Address256AfterTrim", L"  " + k256.substr(0, 250) + L"@b.com  ",
                     SenderCheck::Accepted, k256.substr(0, 250) + L"@b.com"}),
     [](const auto& test) { return std::string(test.param.label); });
+
+TEST(MessageForAddResult, NamesWhatThePageShows) {
+    const AddMessage full = MessageForAddResult(kAddFull);
+    EXPECT_EQ(L"IDS_LISTFULL_MSG", full.messageId);
+    EXPECT_EQ(L"IDS_WARNING_CAPTION", full.captionId);
+    EXPECT_EQ(8000, full.number);
+    const AddMessage existed = MessageForAddResult(kAddExisted);
+    EXPECT_EQ(L"IDS_LISTEXISTED_MSG", existed.messageId);
+    EXPECT_EQ(L"IDS_WARNING_CAPTION", existed.captionId);
+    EXPECT_EQ(0, existed.number);
+    EXPECT_TRUE(MessageForAddResult(kAddAdded).messageId.empty());
+}
+
+TEST(ListKinds, ConflictQuestionNamesTheListBeingAddedTo) {
+    EXPECT_EQ(L"IDS_APPROVELISTCONLICT_MSG", ApprovedList::kConflictMessageId);
+    EXPECT_EQ(L"IDS_BLOCKLISTCONLICT_MSG", BlockedList::kConflictMessageId);
+}
 
 TEST(SenderValidation, Name256_IsAcceptedAnd257Refused) {
     EXPECT_TRUE(ValidateSender(std::wstring(256, L'n'), L"a@b.com").Accepted());
