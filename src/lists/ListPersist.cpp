@@ -5,11 +5,14 @@
 namespace Orva::Lists {
 namespace {
 
-void AppendTagged(std::string& record, std::string_view open, std::wstring_view value,
+bool AppendTagged(std::string& record, std::string_view open, std::wstring_view value,
                   std::string_view close) {
     record.append(open);
-    AppendUtf8(record, value);
+    if (!AppendStorableUtf8(record, value)) {
+        return false;
+    }
     record.append(close);
+    return true;
 }
 
 }  // namespace
@@ -21,8 +24,8 @@ void CListSenderName<Kind>::Parse(std::string_view record, SenderEntry& entry) c
 }
 
 template <class Kind>
-void CListSenderName<Kind>::Format(const SenderEntry& entry, std::string& record) const {
-    AppendTagged(record, kNameOpen, entry.name, kNameClose);
+bool CListSenderName<Kind>::Format(const SenderEntry& entry, std::string& record) const {
+    return AppendTagged(record, kNameOpen, entry.name, kNameClose);
 }
 
 template <class Kind>
@@ -45,8 +48,8 @@ void CListSenderAddr<Kind>::Parse(std::string_view record, SenderEntry& entry) c
 }
 
 template <class Kind>
-void CListSenderAddr<Kind>::Format(const SenderEntry& entry, std::string& record) const {
-    AppendTagged(record, kAddressOpen, entry.address, kAddressClose);
+bool CListSenderAddr<Kind>::Format(const SenderEntry& entry, std::string& record) const {
+    return AppendTagged(record, kAddressOpen, entry.address, kAddressClose);
 }
 
 template <class Kind>

@@ -17,8 +17,9 @@ public:
     virtual ~IListPersist() = default;
     // Takes the field's value out of a record body (UTF-8, as in the file) into `entry`.
     virtual void Parse(std::string_view record, SenderEntry& entry) const = 0;
-    // Appends the field as tagged UTF-8 text to `record`.
-    virtual void Format(const SenderEntry& entry, std::string& record) const = 0;
+    // Appends the field as tagged UTF-8 text to `record`; false when its value cannot be
+    // stored, and `record` is then to be dropped.
+    virtual bool Format(const SenderEntry& entry, std::string& record) const = 0;
 };
 
 using IBListPersist = IListPersist<BlockedList>;
@@ -28,7 +29,7 @@ template <class Kind>
 class CListSenderName final : public IListPersist<Kind> {
 public:
     void Parse(std::string_view record, SenderEntry& entry) const override;
-    void Format(const SenderEntry& entry, std::string& record) const override;
+    bool Format(const SenderEntry& entry, std::string& record) const override;
     static const CListSenderName& Instance();
 };
 
@@ -37,7 +38,7 @@ template <class Kind>
 class CListSenderAddr final : public IListPersist<Kind> {
 public:
     void Parse(std::string_view record, SenderEntry& entry) const override;
-    void Format(const SenderEntry& entry, std::string& record) const override;
+    bool Format(const SenderEntry& entry, std::string& record) const override;
     static const CListSenderAddr& Instance();
 };
 

@@ -165,6 +165,38 @@ std::wstring DecodeValue(std::string_view utf8) {
     return text;
 }
 
+bool AppendStorableUtf8(std::string& out, std::wstring_view value) {
+    if (!value.empty() && (IsBlank(value.front()) || IsBlank(value.back()))) {
+        return false;
+    }
+    bool control = false;
+    bool mayHoldTag = false;
+    bool nonAscii = false;
+    for (const wchar_t c : value) {
+        const auto code = static_cast<uint32_t>(c);
+        control |= (code < 0x20) & (code != 0x09);
+        mayHoldTag |= code == 0x3C;
+        nonAscii |= code >= 0x80;
+    }
+    if (control || (mayHoldTag && !IsStorableValue(value))) {
+        return false;
+    }
+    if (nonAscii) {
+        if (!HasOnlyScalarValues(value)) {
+            return false;
+        }
+        AppendUtf8(out, value);
+        return true;
+    }
+    const size_t start = out.size();
+    out.resize(start + value.size());
+    char* target = out.data() + start;
+    for (const wchar_t c : value) {
+        *target++ = static_cast<char>(c);
+    }
+    return true;
+}
+
 void AppendUtf8(std::string& out, std::wstring_view text) {
     bool ascii = true;
     for (const wchar_t c : text) {

@@ -30,4 +30,8 @@ bool IsStorableUtf8(std::string_view value);
 // Appends `text` to `out` as UTF-8; what is not a scalar value becomes U+FFFD.
 void AppendUtf8(std::string& out, std::wstring_view text);
 
+// Appends `value` as UTF-8 when IsStorableValue holds for it, in one pass over the text, as a
+// whole list is saved value after value. False, with `out` in an unspecified state, otherwise.
+bool AppendStorableUtf8(std::string& out, std::wstring_view value);
+
 }  // namespace Orva::Lists

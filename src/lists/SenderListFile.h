@@ -54,16 +54,21 @@ struct SenderListFile {
         });
     }
 
+    // Appends the entry's record line; an entry whose values could not be read back unchanged
+    // is left out rather than damage the file.
     static void AppendRecordLine(const SenderEntry& entry, std::string& bytes) {
+        const size_t start = bytes.size();
         bytes.append(Kind::kRecordOpen);
-        CListSenderName<Kind>::Instance().Format(entry, bytes);
-        CListSenderAddr<Kind>::Instance().Format(entry, bytes);
+        if (entry.address.empty() || !CListSenderName<Kind>::Instance().Format(entry, bytes) ||
+            !CListSenderAddr<Kind>::Instance().Format(entry, bytes)) {
+            bytes.resize(start);
+            return;
+        }
         bytes.append(Kind::kRecordClose);
         bytes.push_back('\n');
     }
 
-    // The file's bytes for `entries` (a sized range of SenderEntry) in their order. An entry
-    // whose values could not be read back unchanged is left out rather than damage the file.
+    // The file's bytes for `entries` (a sized range of SenderEntry) in their order.
     template <class Entries>
     static std::string Format(const Entries& entries) {
         std::string bytes(kUtf8Mark);
@@ -71,10 +76,7 @@ struct SenderListFile {
         bytes.append(kWrittenHeader);
         bytes.push_back('\n');
         for (const SenderEntry& entry : entries) {
-            if (!entry.address.empty() && IsStorableValue(entry.address) &&
-                IsStorableValue(entry.name)) {
-                AppendRecordLine(entry, bytes);
-            }
+            AppendRecordLine(entry, bytes);
         }
         return bytes;
     }
