@@ -90,5 +90,36 @@ TEST(AppendUtf8, EqualsTheSharedConverterOnRandomText) {
     }
 }
 
+// The save's one-pass check and encoding must agree with the check and the encoder apart.
+TEST(AppendStorableUtf8, AgreesWithIsStorableValueAndAppendUtf8) {
+    static const std::wstring kPieces[] = {L"a",      L" ",         L"\t",         L"\n",
+                                           L"<",      L"<SN_ATTR>", L"<\\BL_REC>", L"\u00e9",
+                                           L"\u4e2d", L"\u0001",    L"\u007f",     L"\uFFFD"};
+    std::mt19937 random(5);
+    std::uniform_int_distribution<size_t> piece(0, std::size(kPieces) - 1);
+    std::uniform_int_distribution<int> parts(0, 6);
+    size_t storable = 0;
+    for (int round = 0; round < 20000; ++round) {
+        std::wstring value;
+        for (int i = parts(random); i > 0; --i) {
+            value += kPieces[piece(random)];
+        }
+        if (round % 50 == 0) {
+            value.push_back(static_cast<wchar_t>(0xD800));
+        }
+        std::string appended = "x";
+        const bool stored = AppendStorableUtf8(appended, value);
+        ASSERT_EQ(IsStorableValue(value), stored) << testing::PrintToString(value);
+        if (stored) {
+            std::string expected = "x";
+            AppendUtf8(expected, value);
+            ASSERT_EQ(expected, appended);
+            ++storable;
+        }
+    }
+    EXPECT_GT(storable, 1000u);
+    EXPECT_LT(storable, 19000u);
+}
+
 }  // namespace
 }  // namespace Orva::Lists
