@@ -12,18 +12,22 @@ struct LibraryCloser {
 };
 using UniqueModule = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
 
-UniqueModule LoadAddin() {
-    return UniqueModule(LoadLibraryA(ORVA_ADDIN_DLL_PATH));
+// The build copies the add-in beside this test program, where LoadLibrary looks first.
+UniqueModule LoadAddin() { return UniqueModule(LoadLibraryW(L"ORVA_WLMA.dll")); }
+
+template <class Function>
+Function ExportAs(FARPROC address) {
+    // Going through void(*)() is the documented way to silence the function-type cast warning.
+    return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(address));
 }
 
 TEST(PluginExports, ExportsAreFoundByNameAndByOrdinal) {
     UniqueModule addin = LoadAddin();
     ASSERT_NE(addin, nullptr) << GetLastError();
 
-    FARPROC byName = GetProcAddress(addin.get(), "InitializePlugin");
-    FARPROC byOrdinal = GetProcAddress(addin.get(), MAKEINTRESOURCEA(2000));
-    ASSERT_NE(byName, nullptr);
-    EXPECT_EQ(byName, byOrdinal);
+    FARPROC initialize = GetProcAddress(addin.get(), "InitializePlugin");
+    ASSERT_NE(initialize, nullptr);
+    EXPECT_EQ(initialize, GetProcAddress(addin.get(), MAKEINTRESOURCEA(2000)));
 
     FARPROC setWnd = GetProcAddress(addin.get(), "SetWLMBrowserWnd");
     ASSERT_NE(setWnd, nullptr);
@@ -32,9 +36,8 @@ TEST(PluginExports, ExportsAreFoundByNameAndByOrdinal) {
 
 TEST(PluginExports, InitializePluginReturnsTrue) {
     UniqueModule addin = LoadAddin();
-    ASSERT_NE(addin, nullptr);
-    auto initialize =
-        reinterpret_cast<BOOL (*)()>(GetProcAddress(addin.get(), "InitializePlugin"));
+    ASSERT_NE(addin, nullptr) << GetLastError();
+    auto initialize = ExportAs<BOOL (*)()>(GetProcAddress(addin.get(), "InitializePlugin"));
     ASSERT_NE(initialize, nullptr);
     EXPECT_EQ(initialize(), TRUE);
 }
