@@ -72,7 +72,7 @@ struct SenderListFile {
     template <class Entries>
     static std::string Format(const Entries& entries) {
         std::string bytes(kUtf8Mark);
-        bytes.reserve(64 + entries.size() * 96);
+        bytes.reserve(64 + entries.size() * 128);
         bytes.append(kWrittenHeader);
         bytes.push_back('\n');
         for (const SenderEntry& entry : entries) {
