@@ -12,7 +12,9 @@ if(WIN32)
 else()
     target_include_directories(orva_boost SYSTEM INTERFACE ${ORVA_BOOST_INCLUDE})
 endif()
-# Header-only use: no boost_thread or boost_date_time library is linked.
-target_compile_definitions(orva_boost INTERFACE BOOST_DATE_TIME_NO_LIB BOOST_ALL_NO_LIB)
+# Header-only use: no boost_thread or boost_date_time library is linked, so no interruption
+# points either (they live in the compiled library).
+target_compile_definitions(orva_boost INTERFACE BOOST_DATE_TIME_NO_LIB BOOST_ALL_NO_LIB
+                                                BOOST_THREAD_DONT_PROVIDE_INTERRUPTIONS)
 find_package(Threads REQUIRED)
 target_link_libraries(orva_boost INTERFACE Threads::Threads)

@@ -5,10 +5,6 @@
 #include <string>
 #include <vector>
 
-// Boost.Thread is used header-only, which its interruption points cannot be.
-#ifndef BOOST_THREAD_DONT_PROVIDE_INTERRUPTIONS
-#define BOOST_THREAD_DONT_PROVIDE_INTERRUPTIONS
-#endif
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/shared_mutex.hpp>
 
