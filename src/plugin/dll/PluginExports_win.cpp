@@ -1,4 +1,4 @@
-#include "plugin/PluginExports.h"
+#include "plugin/dll/PluginExports.h"
 
 extern "C" BOOL InitializePlugin() {
     OutputDebugStringW(L"ORVA InitializePlugin()");

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ZelCommon::Platform {
+
+// An auto-reset event, unsignalled at first: a wait that succeeds consumes the signal.
+class IEvent {
+public:
+    virtual ~IEvent() = default;
+    virtual void Set() = 0;
+    // True when the event was signalled within `milliseconds`.
+    virtual bool Wait(uint32_t milliseconds) = 0;
+};
+
+}  // namespace ZelCommon::Platform

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+#include "common_src/platform/WindowMessaging.h"
+
+namespace ZelCommon::Platform {
+
+// The numeric value of a WNDPROC (0: none).
+using WindowProcedure = std::uintptr_t;
+
+// Swapping the window procedure of another window of the process (subclassing).
+class IWindowProcedureHook {
+public:
+    virtual ~IWindowProcedureHook() = default;
+    // GetWindowLongPtrW(GWLP_WNDPROC); 0 when it cannot be read.
+    virtual WindowProcedure CurrentProcedure(WindowHandle window) = 0;
+    // Puts the add-in's hook procedure in place; false when Windows refused.
+    virtual bool InstallHook(WindowHandle window) = 0;
+    // Puts `procedure` back; false when Windows refused.
+    virtual bool Restore(WindowHandle window, WindowProcedure procedure) = 0;
+};
+
+}  // namespace ZelCommon::Platform

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Orva::Plugin {
+
+// What the controller asks of its own window.
+class IControllerWindow {
+public:
+    virtual ~IControllerWindow() = default;
+    // SetWindowPos(HWND_TOPMOST) without moving or sizing.
+    virtual void MakeTopMost() = 0;
+    virtual bool SetTimer(uintptr_t id, uint32_t milliseconds) = 0;
+    virtual bool KillTimer(uintptr_t id) = 0;
+};
+
+}  // namespace Orva::Plugin
