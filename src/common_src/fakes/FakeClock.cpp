@@ -45,9 +45,17 @@ LocalTime FakeClock::Now() const {
 void FakeClock::Sleep(uint32_t milliseconds) {
     std::lock_guard lock(m_mutex);
     m_sleeps.push_back(milliseconds);
+    if (m_journal != nullptr) {
+        m_journal->Add(L"sleep " + std::to_wstring(milliseconds));
+    }
     if (m_advanceOnSleep) {
         m_now = FromTimePoint(ToTimePoint(m_now) + std::chrono::milliseconds(milliseconds));
     }
+}
+
+void FakeClock::SetJournal(FakeJournal* journal) {
+    std::lock_guard lock(m_mutex);
+    m_journal = journal;
 }
 
 void FakeClock::Set(const LocalTime& now) {

@@ -4,6 +4,7 @@
 #include <mutex>
 #include <vector>
 
+#include "common_src/fakes/FakeJournal.h"
 #include "common_src/platform/Clock.h"
 
 namespace ZelCommon::Fakes {
@@ -23,6 +24,8 @@ public:
     void Advance(uint64_t milliseconds);
     void SetAdvanceOnSleep(bool advance);
     std::vector<uint32_t> Sleeps() const;
+    // Also writes each sleep into `journal` as "sleep <milliseconds>".
+    void SetJournal(FakeJournal* journal);
 
     static Platform::LocalTime At(uint16_t year, uint16_t month, uint16_t day, uint16_t hour = 0,
                                   uint16_t minute = 0, uint16_t second = 0,
@@ -33,6 +36,7 @@ private:
     Platform::LocalTime m_now;
     std::vector<uint32_t> m_sleeps;
     bool m_advanceOnSleep = false;
+    FakeJournal* m_journal = nullptr;
 };
 
 }  // namespace ZelCommon::Fakes

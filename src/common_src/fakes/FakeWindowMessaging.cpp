@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "common_src/platform/WideFormat.h"
+
 namespace ZelCommon::Fakes {
 
 using Platform::WindowHandle;
@@ -57,6 +59,17 @@ intptr_t FakeWindowMessaging::Deliver(WindowHandle window, uint32_t message, uin
         record.delivered = exists;
         delivered = exists;
         m_messages.push_back(record);
+        if (m_journal != nullptr) {
+            std::wstring name = Text::Format(L"0x%Ix", window);
+            for (const Window& w : m_windows) {
+                if (w.handle == window) {
+                    name = !w.title.empty() ? w.title : !w.className.empty() ? w.className : name;
+                }
+            }
+            m_journal->Add(Text::Format(L"%s %s %u %Iu %Id%s",
+                                        delivery == Delivery::Posted ? L"post" : L"send", name,
+                                        message, wParam, lParam, exists ? L"" : L" (no window)"));
+        }
         if (!exists) {
             return 0;
         }
@@ -122,6 +135,11 @@ std::vector<FakeWindowMessaging::Message> FakeWindowMessaging::MessagesTo(
 void FakeWindowMessaging::ClearMessages() {
     std::lock_guard lock(m_mutex);
     m_messages.clear();
+}
+
+void FakeWindowMessaging::SetJournal(FakeJournal* journal) {
+    std::lock_guard lock(m_mutex);
+    m_journal = journal;
 }
 
 unsigned FakeWindowMessaging::LookupCount() const {

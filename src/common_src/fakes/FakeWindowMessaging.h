@@ -9,6 +9,7 @@
 #include <tuple>
 #include <vector>
 
+#include "common_src/fakes/FakeJournal.h"
 #include "common_src/platform/WindowMessaging.h"
 
 namespace ZelCommon::Fakes {
@@ -54,6 +55,9 @@ public:
     std::vector<Message> MessagesTo(Platform::WindowHandle window) const;
     void ClearMessages();
     unsigned LookupCount() const;
+    // Also writes each post and send into `journal` as "post|send <title, else class, else
+    // handle> <message> <wParam> <lParam>", with " (no window)" when it was not delivered.
+    void SetJournal(FakeJournal* journal);
 
 private:
     struct Window {
@@ -74,6 +78,7 @@ private:
     std::map<Platform::WindowHandle, Handler> m_handlers;
     Platform::WindowHandle m_nextHandle = 0x10010;
     unsigned m_lookups = 0;
+    FakeJournal* m_journal = nullptr;
 };
 
 }  // namespace ZelCommon::Fakes
