@@ -2,6 +2,7 @@
 
 #include "CommandErrors.h"
 #include "IniCommands.h"
+#include "ListsCommand.h"
 #include "SettingsCommand.h"
 #include "StringsCommand.h"
 
@@ -12,8 +13,8 @@ namespace {
 constexpr std::wstring_view kIntroHelp =
     LR"(Usage: orvactl COMMAND ...
 
-Reads and writes the add-in's ini files and checks its string tables with the same code
-the add-in uses, and shows the settings a user gets from a deployment.
+Reads and writes the add-in's ini files and sender lists and checks its string tables,
+with the same code the add-in uses, and shows the settings a user gets from a deployment.
 
 )";
 
@@ -50,6 +51,9 @@ constexpr std::wstring_view kSettingsHelp =
 
 )";
 
+constexpr std::wstring_view kListsHeading =
+    L"lists commands (the approved- and blocked-sender list files):\n";
+
 constexpr std::wstring_view kClosingHelp =
     LR"(
   orvactl --help                                 show this text (also after a command)
@@ -69,6 +73,9 @@ std::wstring HelpText() {
     text += kIniHelp;
     text += kSettingsHelp;
     text += StringsHelpText();
+    text += L"\n";
+    text += kListsHeading;
+    text += ListsHelpText();
     text += kClosingHelp;
     return text;
 }
@@ -92,6 +99,9 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
     }
     if (args[0] == L"settings") {
         return RunSettingsCommand(rest, out, err, api);
+    }
+    if (args[0] == L"lists") {
+        return RunListsCommand(rest, out, err);
     }
     if (args[0] == L"strings") {
         return RunStringsCommand(rest, out, err, api);
