@@ -54,8 +54,16 @@ intptr_t FakeWindowMessaging::Deliver(WindowHandle window, uint32_t message, uin
     intptr_t result = 0;
     {
         std::lock_guard lock(m_mutex);
-        const bool exists = std::any_of(m_windows.begin(), m_windows.end(),
-                                        [&](const Window& w) { return w.handle == window; });
+        bool exists = std::any_of(m_windows.begin(), m_windows.end(),
+                                  [&](const Window& w) { return w.handle == window; });
+        bool refused = false;
+        if (const auto failing = m_postFailures.find(window);
+            exists && delivery == Delivery::Posted && failing != m_postFailures.end() &&
+            failing->second > 0) {
+            --failing->second;
+            refused = true;
+            exists = false;
+        }
         record.delivered = exists;
         delivered = exists;
         m_messages.push_back(record);
@@ -68,7 +76,10 @@ intptr_t FakeWindowMessaging::Deliver(WindowHandle window, uint32_t message, uin
             }
             m_journal->Add(Text::Format(L"%s %s %u %Iu %Id%s",
                                         delivery == Delivery::Posted ? L"post" : L"send", name,
-                                        message, wParam, lParam, exists ? L"" : L" (no window)"));
+                                        message, wParam, lParam,
+                                        refused  ? L" (failed)"
+                                        : exists ? L""
+                                                 : L" (no window)"));
         }
         if (!exists) {
             return 0;
@@ -135,6 +146,11 @@ std::vector<FakeWindowMessaging::Message> FakeWindowMessaging::MessagesTo(
 void FakeWindowMessaging::ClearMessages() {
     std::lock_guard lock(m_mutex);
     m_messages.clear();
+}
+
+void FakeWindowMessaging::FailPosts(WindowHandle window, unsigned count) {
+    std::lock_guard lock(m_mutex);
+    m_postFailures[window] = count;
 }
 
 void FakeWindowMessaging::SetJournal(FakeJournal* journal) {

@@ -50,6 +50,8 @@ public:
     // What Send returns for `message` to `window` when no handler is set (0 otherwise).
     void SetSendResult(Platform::WindowHandle window, uint32_t message, intptr_t result);
     void SetHandler(Platform::WindowHandle window, Handler handler);
+    // The next `count` posts to `window` fail as a full message queue would (not delivered).
+    void FailPosts(Platform::WindowHandle window, unsigned count);
 
     std::vector<Message> Messages() const;
     std::vector<Message> MessagesTo(Platform::WindowHandle window) const;
@@ -76,6 +78,7 @@ private:
     std::vector<Message> m_messages;
     std::map<std::tuple<Platform::WindowHandle, uint32_t>, intptr_t> m_sendResults;
     std::map<Platform::WindowHandle, Handler> m_handlers;
+    std::map<Platform::WindowHandle, unsigned> m_postFailures;
     Platform::WindowHandle m_nextHandle = 0x10010;
     unsigned m_lookups = 0;
     FakeJournal* m_journal = nullptr;
