@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "../../../tools/orvactl/CommandLine.h"
+#include "tools/orvactl/CommandLine.h"
 
 namespace Orva::Orvactl {
 namespace {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "../../../tools/orvactl/TextSink.h"
 #include "settings/TempFolder.h"
+#include "tools/orvactl/TextSink.h"
 
 namespace Orva::Orvactl {
 namespace {

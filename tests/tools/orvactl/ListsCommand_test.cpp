@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "../../../tools/orvactl/ListsCommand.h"
-#include "../../../tools/orvactl/Orvactl.h"
-#include "../../../tools/orvactl/TextSink.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/TextCodec.h"
+#include "tools/orvactl/ListsCommand.h"
+#include "tools/orvactl/Orvactl.h"
+#include "tools/orvactl/TextSink.h"
 
 namespace Orva::Orvactl {
 namespace {

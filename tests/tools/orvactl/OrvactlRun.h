@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "../../../tools/orvactl/Orvactl.h"
-#include "../../../tools/orvactl/TextSink.h"
+#include "tools/orvactl/Orvactl.h"
+#include "tools/orvactl/TextSink.h"
 
 namespace Orva::Testing {
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "../../../tools/orvactl/SettingsReport.h"
-#include "../../../tools/orvactl/TextTable.h"
 #include "OrvactlRun.h"
 #include "common_src/platform/Path.h"
 #include "settings/TempFolder.h"
+#include "tools/orvactl/SettingsReport.h"
+#include "tools/orvactl/TextTable.h"
 
 namespace Orva::Orvactl {
 namespace {

@@ -1,16 +1,16 @@
-#include "../../../tools/orvactl/StringsCommand.h"
+#include "tools/orvactl/StringsCommand.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "../../../tools/orvactl/Orvactl.h"
 #include "OrvactlRun.h"
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
 #include "settings/SourceRoot.h"
 #include "settings/TempFolder.h"
+#include "tools/orvactl/Orvactl.h"
 
 namespace Orva::Orvactl {
 namespace {
