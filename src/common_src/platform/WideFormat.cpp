@@ -16,7 +16,7 @@ namespace {
 constexpr int kMaxWidth = 100000;
 constexpr int kMaxFloatPrecision = 500;
 
-struct Spec {
+struct Directive {
     bool left = false;
     bool plus = false;
     bool space = false;
@@ -77,15 +77,16 @@ int ClampWidth(int64_t value) {
 
 // Lays out [prefix][zeros][body] in the field, the way the Windows runtime pads: the '0' flag
 // pads every conversion (text too) with zeros after the sign or base prefix.
-void Emit(std::wstring& out, const Spec& spec, std::wstring_view prefix, std::wstring_view body) {
+void Emit(std::wstring& out, const Directive& directive, std::wstring_view prefix,
+          std::wstring_view body) {
     const size_t used = prefix.size() + body.size();
-    const size_t width = static_cast<size_t>(spec.width);
+    const size_t width = static_cast<size_t>(directive.width);
     const size_t pad = width > used ? width - used : 0;
-    if (spec.left) {
+    if (directive.left) {
         out.append(prefix);
         out.append(body);
         out.append(pad, L' ');
-    } else if (spec.zero) {
+    } else if (directive.zero) {
         out.append(prefix);
         out.append(pad, L'0');
         out.append(body);
@@ -96,13 +97,14 @@ void Emit(std::wstring& out, const Spec& spec, std::wstring_view prefix, std::ws
     }
 }
 
-void EmitInteger(std::wstring& out, const Spec& spec, wchar_t conversion, const FormatArg& arg) {
-    const uint64_t bits = Truncate(RawBits(arg), spec.intBits);
+void EmitInteger(std::wstring& out, const Directive& directive, wchar_t conversion,
+                 const FormatArg& arg) {
+    const uint64_t bits = Truncate(RawBits(arg), directive.intBits);
     const bool isSigned = conversion == L'd' || conversion == L'i';
     bool negative = false;
     uint64_t magnitude = bits;
     if (isSigned) {
-        const int64_t value = SignExtend(bits, spec.intBits);
+        const int64_t value = SignExtend(bits, directive.intBits);
         negative = value < 0;
         magnitude = negative ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
     }
@@ -126,16 +128,16 @@ void EmitInteger(std::wstring& out, const Spec& spec, wchar_t conversion, const 
             *--p = alphabet[v % 10];
         }
     }
-    const size_t precision = spec.precision < 0 ? 1 : static_cast<size_t>(spec.precision);
+    const size_t precision = directive.precision < 0 ? 1 : static_cast<size_t>(directive.precision);
     size_t length = static_cast<size_t>(end - p);
     const bool octalMark =
-        conversion == L'o' && spec.alternate && length >= precision && length > 0;
+        conversion == L'o' && directive.alternate && length >= precision && length > 0;
     const size_t wanted = octalMark ? length + 1 : std::max(length, precision);
 
     std::wstring_view prefix;
     if (isSigned) {
-        prefix = negative ? L"-" : spec.plus ? L"+" : spec.space ? L" " : L"";
-    } else if (spec.alternate && magnitude != 0 && hex) {
+        prefix = negative ? L"-" : directive.plus ? L"+" : directive.space ? L" " : L"";
+    } else if (directive.alternate && magnitude != 0 && hex) {
         prefix = conversion == L'X' ? L"0X" : L"0x";
     }
     if (wanted <= static_cast<size_t>(p - digits) + length) {
@@ -143,11 +145,11 @@ void EmitInteger(std::wstring& out, const Spec& spec, wchar_t conversion, const 
             *--p = L'0';
             ++length;
         }
-        Emit(out, spec, prefix, std::wstring_view(p, length));
+        Emit(out, directive, prefix, std::wstring_view(p, length));
     } else {
         std::wstring padded(wanted - length, L'0');
         padded.append(p, length);
-        Emit(out, spec, prefix, padded);
+        Emit(out, directive, prefix, padded);
     }
 }
 
@@ -253,10 +255,10 @@ double RoundTiesAway(double magnitude, int precision, char conversion) {
                : magnitude;
 }
 
-void EmitDouble(std::wstring& out, const Spec& spec, wchar_t conversion, double value) {
+void EmitDouble(std::wstring& out, const Directive& directive, wchar_t conversion, double value) {
     const bool negative = std::signbit(value);
     const double magnitude = std::fabs(value);
-    int precision = spec.precision < 0 ? 6 : std::min(spec.precision, kMaxFloatPrecision);
+    int precision = directive.precision < 0 ? 6 : std::min(directive.precision, kMaxFloatPrecision);
     const char narrowConversion = static_cast<char>(conversion);
 
     char buffer[1024];
@@ -269,7 +271,7 @@ void EmitDouble(std::wstring& out, const Spec& spec, wchar_t conversion, double 
     } else {
         char format[8] = "%";
         size_t f = 1;
-        if (spec.alternate) {
+        if (directive.alternate) {
             format[f++] = '#';
         }
         format[f++] = '.';
@@ -293,18 +295,21 @@ void EmitDouble(std::wstring& out, const Spec& spec, wchar_t conversion, double 
     for (size_t i = 0; i < length; ++i) {
         wide[i] = static_cast<wchar_t>(static_cast<unsigned char>(buffer[i]));
     }
-    const std::wstring_view prefix = negative ? L"-" : spec.plus ? L"+" : spec.space ? L" " : L"";
-    Emit(out, spec, prefix, std::wstring_view(wide, length));
+    const std::wstring_view prefix = negative          ? L"-"
+                                     : directive.plus  ? L"+"
+                                     : directive.space ? L" "
+                                                       : L"";
+    Emit(out, directive, prefix, std::wstring_view(wide, length));
 }
 
-void EmitText(std::wstring& out, const Spec& spec, std::wstring_view text) {
-    if (spec.precision >= 0 && text.size() > static_cast<size_t>(spec.precision)) {
-        text = text.substr(0, static_cast<size_t>(spec.precision));
+void EmitText(std::wstring& out, const Directive& directive, std::wstring_view text) {
+    if (directive.precision >= 0 && text.size() > static_cast<size_t>(directive.precision)) {
+        text = text.substr(0, static_cast<size_t>(directive.precision));
     }
-    Emit(out, spec, {}, text);
+    Emit(out, directive, {}, text);
 }
 
-void EmitNarrowText(std::wstring& out, const Spec& spec, std::string_view text) {
+void EmitNarrowText(std::wstring& out, const Directive& directive, std::string_view text) {
     bool ascii = true;
     for (const char c : text) {
         if (static_cast<unsigned char>(c) >= 0x80) {
@@ -313,33 +318,34 @@ void EmitNarrowText(std::wstring& out, const Spec& spec, std::string_view text) 
         }
     }
     if (!ascii) {
-        EmitText(out, spec, Utf8ToWide(text));
+        EmitText(out, directive, Utf8ToWide(text));
         return;
     }
-    if (spec.precision >= 0 && text.size() > static_cast<size_t>(spec.precision)) {
-        text = text.substr(0, static_cast<size_t>(spec.precision));
+    if (directive.precision >= 0 && text.size() > static_cast<size_t>(directive.precision)) {
+        text = text.substr(0, static_cast<size_t>(directive.precision));
     }
     wchar_t small[256];
     if (text.size() <= sizeof(small) / sizeof(small[0])) {
         for (size_t i = 0; i < text.size(); ++i) {
             small[i] = static_cast<wchar_t>(text[i]);
         }
-        Emit(out, spec, {}, std::wstring_view(small, text.size()));
+        Emit(out, directive, {}, std::wstring_view(small, text.size()));
     } else {
-        Emit(out, spec, {}, std::wstring(text.begin(), text.end()));
+        Emit(out, directive, {}, std::wstring(text.begin(), text.end()));
     }
 }
 
 // A character is the low 16 bits (wide) or the low byte (narrow, read as Latin-1), as a 16-bit
 // wchar_t on Windows holds it.
-void EmitCharacter(std::wstring& out, const Spec& spec, bool narrow, const FormatArg& arg) {
-    if (spec.precision == 0) {
-        Emit(out, spec, {}, {});
+void EmitCharacter(std::wstring& out, const Directive& directive, bool narrow,
+                   const FormatArg& arg) {
+    if (directive.precision == 0) {
+        Emit(out, directive, {}, {});
         return;
     }
     const uint64_t bits = Truncate(RawBits(arg), narrow ? 8 : 16);
     const wchar_t c = static_cast<wchar_t>(bits);
-    Emit(out, spec, {}, std::wstring_view(&c, 1));
+    Emit(out, directive, {}, std::wstring_view(&c, 1));
 }
 
 int ParseNumber(std::wstring_view format, size_t& i) {
@@ -360,42 +366,42 @@ bool StartsWith(std::wstring_view format, size_t i, std::wstring_view what) {
 }
 
 // Reads the length prefix at `i`; false when the conversion turns out to be the 'I' itself.
-bool ParseLength(std::wstring_view format, size_t& i, Spec& spec) {
+bool ParseLength(std::wstring_view format, size_t& i, Directive& directive) {
     constexpr unsigned kPointerBits = sizeof(void*) * 8;
     while (i < format.size()) {
         const wchar_t c = format[i];
         if (c == L'h') {
-            spec.intBits = 16;
-            spec.textWidth = 'h';
+            directive.intBits = 16;
+            directive.textWidth = 'h';
             ++i;
         } else if (c == L'l') {
             if (StartsWith(format, i, L"ll")) {
-                spec.intBits = 64;
+                directive.intBits = 64;
                 i += 2;
             } else {
-                spec.intBits = 32;
+                directive.intBits = 32;
                 ++i;
             }
-            spec.textWidth = 'l';
+            directive.textWidth = 'l';
         } else if (c == L'w') {
-            spec.intBits = 32;
-            spec.textWidth = 'l';
+            directive.intBits = 32;
+            directive.textWidth = 'l';
             ++i;
         } else if (c == L'L' || c == L'j') {
-            spec.intBits = 64;
+            directive.intBits = 64;
             ++i;
         } else if (c == L'z' || c == L't') {
-            spec.intBits = kPointerBits;
+            directive.intBits = kPointerBits;
             ++i;
         } else if (c == L'I') {
             if (StartsWith(format, i, L"I64")) {
-                spec.intBits = 64;
+                directive.intBits = 64;
                 i += 3;
             } else if (StartsWith(format, i, L"I32")) {
-                spec.intBits = 32;
+                directive.intBits = 32;
                 i += 3;
             } else if (i + 1 < format.size() && IsIntegerConversion(format[i + 1])) {
-                spec.intBits = kPointerBits;
+                directive.intBits = kPointerBits;
                 ++i;
             } else {
                 return false;
@@ -423,19 +429,19 @@ std::wstring FormatV(std::wstring_view format, std::span<const FormatArg> args) 
         out.append(format.substr(i, percent - i));
         i = percent + 1;
 
-        Spec spec;
+        Directive directive;
         for (; i < format.size(); ++i) {
             const wchar_t c = format[i];
             if (c == L'-') {
-                spec.left = true;
+                directive.left = true;
             } else if (c == L'+') {
-                spec.plus = true;
+                directive.plus = true;
             } else if (c == L' ') {
-                spec.space = true;
+                directive.space = true;
             } else if (c == L'#') {
-                spec.alternate = true;
+                directive.alternate = true;
             } else if (c == L'0') {
-                spec.zero = true;
+                directive.zero = true;
             } else {
                 break;
             }
@@ -443,29 +449,29 @@ std::wstring FormatV(std::wstring_view format, std::span<const FormatArg> args) 
         if (i < format.size() && format[i] == L'*') {
             const int star = StarValue(reader.Next());
             if (star < 0) {
-                spec.left = true;
-                spec.width = ClampWidth(-static_cast<int64_t>(star));
+                directive.left = true;
+                directive.width = ClampWidth(-static_cast<int64_t>(star));
             } else {
-                spec.width = ClampWidth(star);
+                directive.width = ClampWidth(star);
             }
             ++i;
         } else {
-            spec.width = ParseNumber(format, i);
+            directive.width = ParseNumber(format, i);
         }
         if (i < format.size() && format[i] == L'.') {
             ++i;
             if (i < format.size() && format[i] == L'*') {
                 const int star = StarValue(reader.Next());
-                spec.precision = star < 0 ? -1 : ClampWidth(star);
+                directive.precision = star < 0 ? -1 : ClampWidth(star);
                 ++i;
             } else {
-                spec.precision = ParseNumber(format, i);
+                directive.precision = ParseNumber(format, i);
             }
         }
-        if (spec.left) {
-            spec.zero = false;
+        if (directive.left) {
+            directive.zero = false;
         }
-        if (!ParseLength(format, i, spec)) {
+        if (!ParseLength(format, i, directive)) {
             out.push_back(L'I');
             ++i;
             continue;
@@ -486,14 +492,14 @@ std::wstring FormatV(std::wstring_view format, std::span<const FormatArg> args) 
             case L'X': {
                 const FormatArg* arg = reader.Next();
                 if (IsInteger(arg)) {
-                    EmitInteger(out, spec, conversion, *arg);
+                    EmitInteger(out, directive, conversion, *arg);
                 }
                 break;
             }
             case L'p': {
                 const FormatArg* arg = reader.Next();
                 if (IsInteger(arg)) {
-                    Spec pointer = spec;
+                    Directive pointer = directive;
                     pointer.intBits = sizeof(void*) * 8;
                     pointer.precision = static_cast<int>(sizeof(void*) * 2);
                     EmitInteger(out, pointer, L'X', *arg);
@@ -507,7 +513,7 @@ std::wstring FormatV(std::wstring_view format, std::span<const FormatArg> args) 
             case L'G': {
                 const FormatArg* arg = reader.Next();
                 if (arg != nullptr && arg->kind() == FormatArg::Kind::Double) {
-                    EmitDouble(out, spec, conversion, arg->doubleValue());
+                    EmitDouble(out, directive, conversion, arg->doubleValue());
                 }
                 break;
             }
@@ -515,14 +521,14 @@ std::wstring FormatV(std::wstring_view format, std::span<const FormatArg> args) 
             case L'S': {
                 const FormatArg* arg = reader.Next();
                 const bool narrow =
-                    spec.textWidth == 'h' || (spec.textWidth == 0 && conversion == L'S');
+                    directive.textWidth == 'h' || (directive.textWidth == 0 && conversion == L'S');
                 if (arg == nullptr) {
                     break;
                 }
                 if (narrow && arg->kind() == FormatArg::Kind::NarrowText) {
-                    EmitNarrowText(out, spec, arg->narrow());
+                    EmitNarrowText(out, directive, arg->narrow());
                 } else if (!narrow && arg->kind() == FormatArg::Kind::WideText) {
-                    EmitText(out, spec, arg->wide());
+                    EmitText(out, directive, arg->wide());
                 }
                 break;
             }
@@ -530,9 +536,9 @@ std::wstring FormatV(std::wstring_view format, std::span<const FormatArg> args) 
             case L'C': {
                 const FormatArg* arg = reader.Next();
                 const bool narrow =
-                    spec.textWidth == 'h' || (spec.textWidth == 0 && conversion == L'C');
+                    directive.textWidth == 'h' || (directive.textWidth == 0 && conversion == L'C');
                 if (IsInteger(arg)) {
-                    EmitCharacter(out, spec, narrow, *arg);
+                    EmitCharacter(out, directive, narrow, *arg);
                 }
                 break;
             }
