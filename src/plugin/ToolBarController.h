@@ -90,6 +90,9 @@ public:
     intptr_t OnReQueryDefaultAccount(uintptr_t wParam, intptr_t lParam);
     intptr_t OnClickRibbonButton(uintptr_t wParam, intptr_t lParam);
     void EnableRibbonToolbar(bool enable);
+    // The add-in's window procedure on the mail client's main window while it is hooked.
+    intptr_t HookProcedure(ZelCommon::Platform::WindowHandle window, uint32_t message,
+                           uintptr_t wParam, intptr_t lParam);
 
     // SetWLMBrowserWnd: the host names the mail client's main window.
     void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) { m_mainWindow = window; }

@@ -53,6 +53,19 @@ bool FakeWindowProcedureHook::Restore(WindowHandle window, WindowProcedure proce
     return true;
 }
 
+intptr_t FakeWindowProcedureHook::CallProcedure(WindowProcedure procedure, WindowHandle /*window*/,
+                                                uint32_t message, uintptr_t /*wParam*/,
+                                                intptr_t /*lParam*/) {
+    Note(Text::Format(L"call 0x%Ix %u", procedure, message));
+    return answer;
+}
+
+intptr_t FakeWindowProcedureHook::CallDefault(WindowHandle /*window*/, uint32_t message,
+                                              uintptr_t /*wParam*/, intptr_t /*lParam*/) {
+    Note(Text::Format(L"default %u", message));
+    return answer;
+}
+
 WindowProcedure FakeWindowProcedureHook::ProcedureOf(WindowHandle window) const {
     const auto found = m_procedures.find(window);
     return found == m_procedures.end() ? 0 : found->second;

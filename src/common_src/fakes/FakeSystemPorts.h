@@ -75,6 +75,13 @@ public:
     Platform::WindowProcedure CurrentProcedure(Platform::WindowHandle window) override;
     bool InstallHook(Platform::WindowHandle window) override;
     bool Restore(Platform::WindowHandle window, Platform::WindowProcedure procedure) override;
+    // Recorded as "call 0x<procedure> <message>" and "default <message>"; both answer
+    // `answer`.
+    intptr_t CallProcedure(Platform::WindowProcedure procedure, Platform::WindowHandle window,
+                           uint32_t message, uintptr_t wParam, intptr_t lParam) override;
+    intptr_t CallDefault(Platform::WindowHandle window, uint32_t message, uintptr_t wParam,
+                         intptr_t lParam) override;
+    intptr_t answer = 0;
 
     void SetProcedure(Platform::WindowHandle window, Platform::WindowProcedure procedure) {
         m_procedures[window] = procedure;

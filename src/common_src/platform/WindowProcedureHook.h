@@ -19,6 +19,12 @@ public:
     virtual bool InstallHook(WindowHandle window) = 0;
     // Puts `procedure` back; false when Windows refused.
     virtual bool Restore(WindowHandle window, WindowProcedure procedure) = 0;
+    // CallWindowProcW with a saved procedure.
+    virtual intptr_t CallProcedure(WindowProcedure procedure, WindowHandle window, uint32_t message,
+                                   uintptr_t wParam, intptr_t lParam) = 0;
+    // DefWindowProcW.
+    virtual intptr_t CallDefault(WindowHandle window, uint32_t message, uintptr_t wParam,
+                                 intptr_t lParam) = 0;
 };
 
 }  // namespace ZelCommon::Platform
