@@ -17,7 +17,7 @@ EncodingGroup Group(bool blocked, std::vector<int32_t> codePages) {
 }
 
 TEST(CEncodingSet, Save_WritesHeaderValueAndGroupsInNameOrder) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlockEncodings.dat");
     CEncodingSet set;
     set.SetValue(-3);
@@ -28,11 +28,11 @@ TEST(CEncodingSet, Save_WritesHeaderValueAndGroupsInNameOrder) {
     EXPECT_EQ(
         std::string(kMark) + kHeader +
             "\n-3\nChinese Simplified\t1\t936\t20936\t52936\nEmpty\t1\nKorean\t0\t949\t51949\n",
-        Testing::ReadBytes(path));
+        Testing::ReadFileBytes(path));
 }
 
 TEST(CEncodingSet, Load_ReadsWhatSaveWrote) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlockEncodings.dat");
     CEncodingSet saved;
     saved.SetValue(7);
@@ -46,7 +46,7 @@ TEST(CEncodingSet, Load_ReadsWhatSaveWrote) {
 }
 
 TEST(CEncodingSet, Load_MissingFileGivesEmptySet) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     CEncodingSet set;
     set.SetValue(4);
     set.AddGroup(L"Thai", Group(true, {874}));
@@ -63,9 +63,9 @@ TEST(CEncodingSet, Parse_AnyFirstLineStillLoadsFromLineThree) {
 }
 
 TEST(CEncodingSet, Parse_CrLfAndMarkReadLikeLf) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlockEncodings.dat");
-    Testing::WriteBytes(path, std::string(kMark) + kHeader + "\r\n5\r\nThai\t1\t874\r\nA\t0\r\n");
+    Testing::WriteFileBytes(path, std::string(kMark) + kHeader + "\r\n5\r\nThai\t1\t874\r\nA\t0\r\n");
     CEncodingSet set;
     set.Load(path);
     EXPECT_EQ(5, set.Value());

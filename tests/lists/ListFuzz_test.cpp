@@ -79,7 +79,7 @@ std::string RandomBytes(std::mt19937& random) {
 // Random and mutated files go through every reader; nothing may crash, and whatever a reader
 // takes in must be written out again in a form it reads back the same.
 TEST(ListFuzz, ReadersSurviveRandomAndMutatedFiles) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring input = folder.File(L"input.dat");
     const std::wstring output = folder.File(L"output.dat");
     std::mt19937 random(12345);
@@ -88,7 +88,7 @@ TEST(ListFuzz, ReadersSurviveRandomAndMutatedFiles) {
     while (std::chrono::steady_clock::now() < deadline) {
         const std::string bytes =
             (random() % 4 == 0) ? RandomBytes(random) : Mutate(kSeeds[random() % 2], random);
-        Testing::WriteBytes(input, bytes);
+        Testing::WriteFileBytes(input, bytes);
 
         CBListSet blocked;
         blocked.Load(input);

@@ -22,13 +22,13 @@ size_t Occurrences(const std::string& text, const std::string& part) {
 std::string ReadWholeLogFolder(const std::wstring& folder) {
     std::string text;
     for (const auto& file : std::filesystem::directory_iterator(std::filesystem::path(folder))) {
-        text += Testing::ReadBytes(file.path().wstring());
+        text += Testing::ReadFileBytes(file.path().wstring());
     }
     return text;
 }
 
 TEST(ListLog, FindAndAdd_WriteTheirLinesUnderTheBlockedListsName) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     ZelCommon::Library::TheLog().OpenLog(folder.File(L"lists.log"));
     ASSERT_TRUE(ZelCommon::Library::TheLog().IsLogOn());
     CWListSet set;

@@ -16,7 +16,7 @@ namespace {
 // Load empties the set before it refills it, so a reader that ever misses the entry that every
 // file holds has seen a half-done load.
 TEST(ListSetConcurrency, ReadersNeverSeeAHalfDoneChange) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlackList.dat");
     CBListSet set;
     set.Add(L"always@b.com", {L"Always", L"always@b.com"});
@@ -83,7 +83,7 @@ TEST(ListSetConcurrency, ReadersNeverSeeAHalfDoneChange) {
 // Two sets, each saved by its own thread, while a third thread reloads them: every load sees a
 // whole file, either the old one or a new one.
 TEST(ListSetConcurrency, LoadDuringSaveSeesAWholeFile) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring path = folder.File(L"WhiteList.dat");
     CWListSet small;
     CWListSet large;

@@ -47,7 +47,7 @@ std::wstring RandomAddress(std::mt19937& random) {
 
 template <class Set>
 void ExpectEveryAddableEntryRoundTrips(const std::wstring& fileName) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring path = folder.File(fileName);
     std::mt19937 random(7);
     Set set;
@@ -61,12 +61,12 @@ void ExpectEveryAddableEntryRoundTrips(const std::wstring& fileName) {
     }
     ASSERT_GT(accepted, 200u);
     set.Save(path);
-    const std::string firstBytes = Testing::ReadBytes(path);
+    const std::string firstBytes = Testing::ReadFileBytes(path);
     Set reloaded;
     reloaded.Load(path);
     EXPECT_EQ(set.Entries(), reloaded.Entries());
     reloaded.Save(path);
-    EXPECT_EQ(firstBytes, Testing::ReadBytes(path));
+    EXPECT_EQ(firstBytes, Testing::ReadFileBytes(path));
 }
 
 TEST(SenderListRoundTrip, BlockedList_EveryValidatedEntryComesBackByteForByte) {
@@ -78,7 +78,7 @@ TEST(SenderListRoundTrip, ApprovedList_EveryValidatedEntryComesBackByteForByte) 
 }
 
 TEST(SenderListRoundTrip, Save_LeavesOutAnEntryThatWouldDamageTheFile) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlackList.dat");
     CBListSet set;
     set.Add(L"a@b.com", {L"line\nbreak", L"a@b.com"});

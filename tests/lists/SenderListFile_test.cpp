@@ -11,8 +11,8 @@ namespace {
 
 using Testing::kHeader;
 using Testing::kMark;
-using Testing::ReadBytes;
-using Testing::WriteBytes;
+using Testing::ReadFileBytes;
+using Testing::WriteFileBytes;
 
 std::string BlockedRecord(const std::string& name, const std::string& address) {
     return "<BL_REC><SN_ATTR>" + name + "<\\SN_ATTR><SA_ATTR>" + address + "<\\SA_ATTR><\\BL_REC>";
@@ -21,13 +21,13 @@ std::string BlockedRecord(const std::string& name, const std::string& address) {
 class SenderListFileTest : public ::testing::Test {
 protected:
     std::vector<SenderEntry> LoadBlocked(const std::string& bytes) {
-        WriteBytes(m_path, bytes);
+        WriteFileBytes(m_path, bytes);
         CBListSet set;
         set.Load(m_path);
         return set.Entries();
     }
 
-    Testing::ListTempFolder m_folder;
+    Testing::TempFolder m_folder;
     std::wstring m_path = m_folder.File(L"BlackList.dat");
 };
 
@@ -38,7 +38,7 @@ TEST_F(SenderListFileTest, Save_WritesMarkHeaderAndRecordsInKeyOrderWithLineFeed
     EXPECT_EQ(1, set.Save(m_path));
     EXPECT_EQ(std::string(kMark) + kHeader + "\n" + BlockedRecord("", "al@b.com") + "\n" +
                   BlockedRecord("Zed", "Zed@b.com") + "\n",
-              ReadBytes(m_path));
+              ReadFileBytes(m_path));
 }
 
 TEST_F(SenderListFileTest, Save_ApprovedListUsesItsOwnRecordTags) {
@@ -48,13 +48,13 @@ TEST_F(SenderListFileTest, Save_ApprovedListUsesItsOwnRecordTags) {
     set.Save(path);
     EXPECT_EQ(std::string(kMark) + kHeader +
                   "\n<WL_REC><SN_ATTR>A<\\SN_ATTR><SA_ATTR>a@b.com<\\SA_ATTR><\\WL_REC>\n",
-              ReadBytes(path));
+              ReadFileBytes(path));
 }
 
 TEST_F(SenderListFileTest, Save_EmptyListWritesHeaderAlone) {
     CBListSet set;
     set.Save(m_path);
-    EXPECT_EQ(std::string(kMark) + kHeader + "\n", ReadBytes(m_path));
+    EXPECT_EQ(std::string(kMark) + kHeader + "\n", ReadFileBytes(m_path));
 }
 
 TEST_F(SenderListFileTest, Save_WritesNonAsciiNamesAsUtf8) {
@@ -63,7 +63,7 @@ TEST_F(SenderListFileTest, Save_WritesNonAsciiNamesAsUtf8) {
     set.Save(m_path);
     EXPECT_EQ(std::string(kMark) + kHeader + "\n" +
                   BlockedRecord("J\xC3\xBCrgen \xE4\xB8\xAD", "a@b.com") + "\n",
-              ReadBytes(m_path));
+              ReadFileBytes(m_path));
 }
 
 TEST_F(SenderListFileTest, Save_UnwritableLocationReportsSuccessAndCreatesNothing) {
@@ -75,12 +75,12 @@ TEST_F(SenderListFileTest, Save_UnwritableLocationReportsSuccessAndCreatesNothin
 }
 
 TEST_F(SenderListFileTest, Save_ReplacesOldFileAndLeavesNoTemporaryFile) {
-    WriteBytes(m_path, std::string(kHeader) + "\n" + BlockedRecord("", "old@b.com") + "\n");
+    WriteFileBytes(m_path, std::string(kHeader) + "\n" + BlockedRecord("", "old@b.com") + "\n");
     CBListSet set;
     set.Add(L"new@b.com", {L"", L"new@b.com"});
     set.Save(m_path);
     EXPECT_EQ(std::string(kMark) + kHeader + "\n" + BlockedRecord("", "new@b.com") + "\n",
-              ReadBytes(m_path));
+              ReadFileBytes(m_path));
     EXPECT_EQ(1u, m_folder.FileCount());
 }
 
@@ -107,7 +107,7 @@ TEST_F(SenderListFileTest, Load_ReadsWhatSaveWrote) {
 TEST_F(SenderListFileTest, Load_ReplacesEarlierContent) {
     CBListSet set;
     set.Add(L"gone@b.com", {L"", L"gone@b.com"});
-    WriteBytes(m_path, std::string(kHeader) + "\n" + BlockedRecord("", "a@b.com") + "\n");
+    WriteFileBytes(m_path, std::string(kHeader) + "\n" + BlockedRecord("", "a@b.com") + "\n");
     set.Load(m_path);
     EXPECT_EQ((std::vector<SenderEntry>{{L"", L"a@b.com"}}), set.Entries());
     EXPECT_TRUE(set.WildcardKeys().empty());
@@ -166,7 +166,7 @@ TEST_F(SenderListFileTest, Load_OldHeaderLoadsAndSaveRewritesIt) {
     set.Load(m_path);
     set.Save(m_path);
     EXPECT_EQ(std::string(kMark) + kHeader + "\n" + BlockedRecord("N", "a@b.com") + "\n",
-              ReadBytes(m_path));
+              ReadFileBytes(m_path));
 }
 
 TEST_F(SenderListFileTest, Load_CrLfAndLfFilesReadTheSame) {

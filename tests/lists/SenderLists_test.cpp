@@ -15,12 +15,12 @@ public:
     explicit RecordingNotifier(std::wstring folder) : m_folder(std::move(folder)) {}
     void SenderListsChanged() override {
         ++senderLists;
-        approvedOnDisk = Testing::ReadBytes(ApprovedListPath(m_folder));
-        blockedOnDisk = Testing::ReadBytes(BlockedListPath(m_folder));
+        approvedOnDisk = Testing::ReadFileBytes(ApprovedListPath(m_folder));
+        blockedOnDisk = Testing::ReadFileBytes(BlockedListPath(m_folder));
     }
     void EncodingsChanged() override {
         ++encodings;
-        encodingsOnDisk = Testing::ReadBytes(EncodingsPath(m_folder));
+        encodingsOnDisk = Testing::ReadFileBytes(EncodingsPath(m_folder));
     }
 
     int senderLists = 0;
@@ -39,7 +39,7 @@ TEST(SenderLists, Paths_NameTheTwoFilesInTheFolder) {
 }
 
 TEST(SenderLists, Apply_SavesBothFilesBeforeTellingTheAgentOnce) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     CWListSet approved;
     CBListSet blocked;
     approved.Add(L"friend@b.com", {L"F", L"friend@b.com"});
@@ -52,7 +52,7 @@ TEST(SenderLists, Apply_SavesBothFilesBeforeTellingTheAgentOnce) {
 }
 
 TEST(SenderLists, ApplyEncodings_SavesTheFileBeforeTellingTheAgent) {
-    Testing::ListTempFolder folder;
+    Testing::TempFolder folder;
     CEncodingSet encodings;
     encodings.AddGroup(L"Thai", EncodingGroup{true, {874}});
     RecordingNotifier notifier(folder.Path());

@@ -20,7 +20,7 @@
 #include "settings/DebugLog.h"
 #include "settings/OsInfo.h"
 #include "settings/SettingsStore.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 
 namespace Orva::Testing {
 

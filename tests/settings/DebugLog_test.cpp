@@ -1,4 +1,5 @@
 #include "settings/DebugLog.h"
+#include "support/FileBytes.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using Orva::Testing::ReadFileBytes;
 using ZelCommon::Fakes::FakeClock;
 using ZelCommon::Fakes::FakeDebuggerOutput;
 using ZelCommon::Fakes::FakeProcessContext;
@@ -39,26 +41,6 @@ std::string OnDisk(std::string text) {
 #else
     return text;
 #endif
-}
-
-std::string ReadBytes(const fs::path& path) {
-    std::error_code error;
-    const auto size = fs::file_size(path, error);
-    if (error) {
-        return "<missing>";
-    }
-    std::string bytes(static_cast<size_t>(size), '\0');
-#ifdef _WIN32
-    std::FILE* file = _wfopen(path.wstring().c_str(), L"rb");
-#else
-    std::FILE* file = std::fopen(path.string().c_str(), "rb");
-#endif
-    if (file == nullptr) {
-        return "<unreadable>";
-    }
-    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
-    std::fclose(file);
-    return bytes;
 }
 
 class DebugLogTest : public ::testing::Test {
@@ -122,7 +104,7 @@ TEST_F(DebugLogTest, WriteLine_HeadThenTextExactly) {
     m_process.SetProcessId(0xFFFFFFFF);
     m_process.SetThreadId(0x10000);
     m_log.WriteLine(L"second\n");
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"),
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
               OnDisk(kHead + "hello\nffff:0000 2024/01/31 23:59:59:999 second\n"));
     EXPECT_EQ(m_debugger.Texts(),
               (std::vector<std::wstring>{kWideHead + L"hello\n",
@@ -132,7 +114,7 @@ TEST_F(DebugLogTest, WriteLine_HeadThenTextExactly) {
 TEST_F(DebugLogTest, WriteLine_NoByteOrderMarkAndAnsiBytes) {
     m_log.OpenLog(Base(L"ORVAAgent.log"));
     m_log.WriteLine(L"caf\u00E9\n");
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"),
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
               OnDisk(kHead + ZelCommon::Text::WideToAnsi(L"caf\u00E9") + "\n"));
 }
 
@@ -141,7 +123,7 @@ TEST_F(DebugLogTest, Line499Characters_IsWrittenWhole) {
     const std::wstring text = std::wstring(464, L'a') + L"\n";
     ASSERT_EQ(kWideHead.size() + text.size(), 499u);
     m_log.WriteLine(text);
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"),
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
               OnDisk(kHead + std::string(464, 'a') + "\n"));
     EXPECT_EQ(m_debugger.Texts().at(0), kWideHead + text);
 }
@@ -152,7 +134,7 @@ TEST_F(DebugLogTest, Line500Characters_Keeps495AndEndsWithDotsAndN) {
     ASSERT_EQ(kWideHead.size() + text.size(), 500u);
     m_log.WriteLine(text);
     const std::string expected = kHead + std::string(495 - kHead.size(), 'a') + "...n";
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"), expected);
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), expected);
     EXPECT_EQ(m_debugger.Texts().at(0).size(), 499u);
 }
 
@@ -160,7 +142,7 @@ TEST_F(DebugLogTest, VeryLongLine_IsCutTheSameWay) {
     m_log.OpenLog(Base(L"ORVAAgent.log"));
     m_log.LogMessage(2, "x.cpp", 1, L"%s", std::wstring(5000, L'z'));
     const std::string expected = kHead + "@@@ " + std::string(495 - kHead.size() - 4, 'z') + "...n";
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"), expected);
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), expected);
 }
 
 struct LevelRow {
@@ -178,7 +160,7 @@ TEST_F(DebugLogTest, LogMessage_PrefixByLevelAndPlace) {
         expected += kHead + row.prefix + "value " + std::to_string(row.level) +
                     " of Debug, at: SettingsStore.cpp line: 120\n";
     }
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"), OnDisk(expected));
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), OnDisk(expected));
 }
 
 TEST_F(DebugLogTest, LogMessage_UnixSourcePath_KeepsFileName) {
@@ -193,7 +175,7 @@ TEST_F(DebugLogTest, LogText_AddsLineBreakOnlyWhenMissing) {
     m_log.LogText(L"@@@ %s  IN", L"CToolBarWnd::OnBuildUI");
     m_log.LogText(L"######the nPos = %d!\n", 3);
     m_log.LogText(L"");
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"),
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
               OnDisk(kHead + "@@@ CToolBarWnd::OnBuildUI  IN\n" + kHead + "######the nPos = 3!\n" +
                      kHead + "\n"));
 }
@@ -204,7 +186,7 @@ TEST_F(DebugLogTest, ScopeTracer_WritesInAndOutLines) {
         ScopeTracer tracer(L"CToolBarWnd::OnCreate", "src\\plugin\\ToolBarWnd.cpp", 88, m_log);
         m_log.WriteLine(L"body\n");
     }
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"),
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
               OnDisk(kHead + " ==> [CToolBarWnd::OnCreate] in, at: ToolBarWnd.cpp line: 88\n" +
                      kHead + "body\n" + kHead +
                      " <== [CToolBarWnd::OnCreate] out, at: ToolBarWnd.cpp line: 88\n"));
@@ -242,9 +224,9 @@ TEST_F(DebugLogTest, FirstLineAfterMidnight_GoesToNewDaysFileAndOldIsClosed) {
     EXPECT_TRUE(IsHeldOpen(m_folder / "ORVAAgent.20240131.log"));
     m_clock.Advance(1);
     m_log.WriteLine(L"after\n");
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"),
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
               OnDisk("1234:000b 2024/01/31 23:59:59:999 before\n"));
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240201.log"),
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240201.log"),
               OnDisk("1234:000b 2024/02/01 00:00:00:000 after\n"));
     EXPECT_FALSE(IsHeldOpen(m_folder / "ORVAAgent.20240131.log"));
     EXPECT_TRUE(IsHeldOpen(m_folder / "ORVAAgent.20240201.log"));
@@ -257,7 +239,7 @@ TEST_F(DebugLogTest, NewDaysFileCannotOpen_LogGoesOffWithoutWriting) {
     m_log.WriteLine(L"lost\n");
     EXPECT_FALSE(m_log.IsLogOn());
     m_log.WriteLine(L"also lost\n");
-    EXPECT_EQ(ReadBytes(m_folder / "ORVAAgent.20240131.log"), "");
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), "");
     EXPECT_EQ(m_debugger.Texts().size(), 1u);
 }
 
@@ -293,7 +275,7 @@ TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {
     for (std::thread& thread : threads) {
         thread.join();
     }
-    std::string text = ReadBytes(m_folder / "ORVAAgent.20240131.log");
+    std::string text = ReadFileBytes(m_folder / "ORVAAgent.20240131.log");
 #ifdef _WIN32
     std::erase(text, '\r');
 #endif
@@ -347,7 +329,7 @@ TEST_F(DebugLogTest, WritersAcrossMidnight_EachLineLandsInTheFileOfItsOwnDate) {
     size_t total = 0;
     for (const auto& [file, date] : {std::pair{"ORVAAgent.20240131.log", "2024/01/31"},
                                      std::pair{"ORVAAgent.20240201.log", "2024/02/01"}}) {
-        std::string text = ReadBytes(m_folder / file);
+        std::string text = ReadFileBytes(m_folder / file);
 #ifdef _WIN32
         std::erase(text, '\r');
 #endif

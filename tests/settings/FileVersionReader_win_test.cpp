@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "TempFolder.h"
+#include "support/TempFolder.h"
 #include "settings/FileVersionReader.h"
 
 namespace Orva::Settings {

@@ -6,7 +6,7 @@
 #include "common_src/fakes/FakeClock.h"
 #include "common_src/fakes/FakeProcessContext.h"
 #include "settings/DebugLog.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 
 namespace Orva::Testing {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "TempFolder.h"
+#include "support/TempFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/Registry.h"
 #include "common_src/fakes/FakeProcessContext.h"

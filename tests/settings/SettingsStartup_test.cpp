@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "TempFolder.h"
+#include "support/TempFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/Registry.h"
 #include "common_src/fakes/FakeClock.h"

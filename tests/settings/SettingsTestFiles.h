@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "TempFolder.h"
+#include "support/TempFolder.h"
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "settings/SettingsCatalogue.h"
 #include "settings/SettingsStore.h"

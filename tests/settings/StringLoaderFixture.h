@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "ProbeLog.h"
-#include "TempFolder.h"
+#include "support/TempFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/ZelCommon/Registry.h"

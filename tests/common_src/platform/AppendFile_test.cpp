@@ -1,10 +1,10 @@
 #include "common_src/platform/AppendFile.h"
 #include "common_src/platform/TextCodec.h"
+#include "support/FileBytes.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdio>
 #include <filesystem>
 #include <string>
 
@@ -15,41 +15,10 @@ using ZelCommon::Platform::AppendFile;
 
 class AppendFileTest : public ::testing::Test {
 protected:
-    AppendFileTest() {
-        static std::atomic<int> counter{0};
-        m_folder = fs::temp_directory_path() /
-                   ("orva_appendfile_" +
-                    std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "_" +
-                    std::to_string(counter++));
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder);
-    }
-    ~AppendFileTest() override {
-        std::error_code ignored;
-        fs::remove_all(m_folder, ignored);
-    }
+    static std::string Read(const fs::path& path) { return Orva::Testing::ReadFileBytes(path); }
 
-    std::string Read(const fs::path& path) {
-        std::error_code error;
-        const auto size = fs::file_size(path, error);
-        if (error) {
-            return "<missing>";
-        }
-        std::string bytes(static_cast<size_t>(size), '\0');
-#ifdef _WIN32
-        std::FILE* file = _wfopen(path.wstring().c_str(), L"rb");
-#else
-        std::FILE* file = std::fopen(path.string().c_str(), "rb");
-#endif
-        if (file == nullptr) {
-            return "<unreadable>";
-        }
-        bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
-        std::fclose(file);
-        return bytes;
-    }
-
-    fs::path m_folder;
+    Orva::Testing::TempFolder m_temp;
+    const fs::path m_folder = m_temp.Root();
 };
 
 TEST_F(AppendFileTest, Open_CreatesAndAppendsAcrossOpenings) {

@@ -8,7 +8,7 @@
 #include "common_src/fakes/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/ProcessContext.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 
 namespace ZelCommon::Win32 {
 namespace {

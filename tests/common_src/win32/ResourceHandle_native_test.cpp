@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "common_src/win32/ResourceHandle.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 
 namespace ZelCommon::Win32 {
 namespace {

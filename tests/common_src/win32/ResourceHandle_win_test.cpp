@@ -6,7 +6,7 @@
 
 #include "common_src/platform/ProcessContext.h"
 #include "common_src/win32/ResourceHandle.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 
 namespace ZelCommon::Win32 {
 namespace {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 #include "tools/orvactl/TextSink.h"
 
 namespace Orva::Orvactl {

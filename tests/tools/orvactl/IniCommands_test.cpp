@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "OrvactlRun.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 
 namespace Orva::Orvactl {
 namespace {

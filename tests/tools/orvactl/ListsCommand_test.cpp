@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "common_src/platform/Path.h"
 #include "common_src/platform/TextCodec.h"
+#include "support/FileBytes.h"
+#include "support/TempFolder.h"
 #include "tools/orvactl/ListsCommand.h"
 #include "tools/orvactl/Orvactl.h"
 #include "tools/orvactl/TextSink.h"
@@ -18,27 +18,12 @@ namespace {
 
 class ListsCommandTest : public ::testing::Test {
 protected:
-    ListsCommandTest() { std::filesystem::create_directories(m_root); }
-    ~ListsCommandTest() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_root, ignored);
-    }
-
-    std::wstring File(const std::wstring& name) const {
-        return ZelCommon::Path::ChildFile(m_root.wstring(), name);
-    }
+    std::wstring File(const std::wstring& name) const { return m_folder.File(name); }
     static void Write(const std::wstring& path, const std::string& bytes) {
-        std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
+        Testing::WriteFileBytes(std::filesystem::path(path), bytes);
     }
     static std::string Read(const std::wstring& path) {
-        std::ifstream file(std::filesystem::path(path), std::ios::binary | std::ios::ate);
-        if (!file) {
-            return "<missing>";
-        }
-        std::string bytes(static_cast<size_t>(file.tellg()), '\0');
-        file.seekg(0);
-        file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        return bytes;
+        return Testing::ReadFileBytes(std::filesystem::path(path));
     }
     static std::string ListBytes(const std::string& recordTag,
                                  const std::vector<std::pair<std::string, std::string>>& entries) {
@@ -56,14 +41,7 @@ protected:
         return RunListsCommand(args, m_out, m_err);
     }
 
-    static std::filesystem::path FreshFolder() {
-        const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-        return std::filesystem::temp_directory_path() /
-               ("orva-lists-cmd-" + std::to_string(stamp) + "-" +
-                std::to_string(std::random_device{}()));
-    }
-
-    std::filesystem::path m_root = FreshFolder();
+    Testing::TempFolder m_folder;
     std::wstring m_white = File(L"WhiteList.dat");
     std::wstring m_black = File(L"BlackList.dat");
     StringSink m_out;

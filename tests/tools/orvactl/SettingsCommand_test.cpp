@@ -6,7 +6,7 @@
 
 #include "OrvactlRun.h"
 #include "common_src/platform/Path.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 #include "tools/orvactl/SettingsReport.h"
 #include "tools/orvactl/TextTable.h"
 

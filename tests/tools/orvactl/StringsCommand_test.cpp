@@ -9,7 +9,7 @@
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
 #include "settings/SourceRoot.h"
-#include "settings/TempFolder.h"
+#include "support/TempFolder.h"
 #include "tools/orvactl/Orvactl.h"
 
 namespace Orva::Orvactl {

@@ -22,7 +22,7 @@ public:
         const unsigned salt = std::random_device{}();
         std::error_code error;
         m_root = std::filesystem::temp_directory_path(error) /
-                 ("orva-settings-" + std::to_string(stamp) + "-" + std::to_string(salt) + "-" +
+                 ("orva-test-" + std::to_string(stamp) + "-" + std::to_string(salt) + "-" +
                   std::to_string(++counter));
         std::filesystem::create_directories(m_root, error);
     }
@@ -39,6 +39,18 @@ public:
     }
     std::wstring File(const std::wstring& name) const {
         return ZelCommon::Path::ChildFile(Path(), name);
+    }
+    const std::filesystem::path& Root() const { return m_root; }
+
+    // How many files and folders it holds.
+    size_t FileCount() const {
+        size_t count = 0;
+        std::error_code error;
+        for (auto it = std::filesystem::directory_iterator(m_root, error);
+             it != std::filesystem::directory_iterator(); ++it) {
+            ++count;
+        }
+        return count;
     }
 
 private:
