@@ -25,8 +25,11 @@ public:
     // OnBuildRibbonToolbar: builds the group with the state of the toolbar-enabled flag and
     // returns the ids it got (those created so far when the host failed).
     virtual RibbonIds BuildRibbonToolbar(bool toolbarEnabled) = 0;
-    // EnableRibbonToolbar after the controller stored the new flag.
-    virtual void EnableRibbonToolbar(bool enable) = 0;
+    // The on/off entry's caption: "IDS_DISABLE_CAPTION" while enabled, else
+    // "IDS_ENABLE_CAPTION".
+    virtual void SetOnOffCaption(bool enabled) = 0;
+    // Enables or disables the group's buttons.
+    virtual void EnableButtons(bool enable) = 0;
 };
 
 // The classic toolbar band of the mail client 14.

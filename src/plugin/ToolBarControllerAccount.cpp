@@ -63,9 +63,4 @@ void CToolBarController::PostAccountInfoReady(uint32_t message) {
     }
 }
 
-void CToolBarController::EnableRibbonToolbar(bool enable) {
-    m_bTBEnable = enable;
-    m_parts.ribbon.EnableRibbonToolbar(enable);
-}
-
 }  // namespace Orva::Plugin

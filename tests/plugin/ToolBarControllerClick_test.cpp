@@ -97,16 +97,6 @@ INSTANTIATE_TEST_SUITE_P(Entries, DropDownEntries,
                                          EntryCase{3, L"dialog help"},
                                          EntryCase{4, L"dialog about"}));
 
-TEST(ControllerClick, OnOffTwice_SwitchesOffThenOn) {
-    BuiltRig rig;
-    rig.Dispatch(kClick, kEntries, 2);
-    EXPECT_FALSE(rig.Controller().IsToolbarEnabled());
-    rig.Dispatch(kClick, kEntries, 2);
-    EXPECT_TRUE(rig.Controller().IsToolbarEnabled());
-    EXPECT_THAT(rig.Journal(),
-                ElementsAre(kIn, L"ribbon enable 0", kOut, kIn, L"ribbon enable 1", kOut));
-}
-
 TEST(ControllerClick, EntriesSentAs32BitMinusOne_AreRecognised) {
     BuiltRig rig;
     rig.Dispatch(kClick, 0xFFFFFFFFu, 1);

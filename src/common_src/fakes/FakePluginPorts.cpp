@@ -99,9 +99,14 @@ Orva::Plugin::RibbonIds FakeRibbonCommands::BuildRibbonToolbar(bool toolbarEnabl
     return ids;
 }
 
-void FakeRibbonCommands::EnableRibbonToolbar(bool enable) {
-    Note(Text::Format(L"ribbon enable %d", enable));
-    m_enables.push_back(enable);
+void FakeRibbonCommands::SetOnOffCaption(bool enabled) {
+    m_caption = enabled ? L"IDS_DISABLE_CAPTION" : L"IDS_ENABLE_CAPTION";
+    Note(L"ribbon caption " + m_caption);
+}
+
+void FakeRibbonCommands::EnableButtons(bool enable) {
+    Note(Text::Format(L"ribbon buttons %d", enable));
+    m_buttonsEnabled = enable;
 }
 
 void FakeClassicBand::OnBuildUserInterface(uintptr_t wParam, intptr_t lParam) {

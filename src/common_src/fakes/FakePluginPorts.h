@@ -88,18 +88,21 @@ private:
     std::optional<int> m_version;
 };
 
-// The ribbon: hands out the ids a test chose; records "ribbon build <flag>" and
-// "ribbon enable <flag>".
+// The ribbon: hands out the ids a test chose; records "ribbon build <flag>",
+// "ribbon caption <caption id>" and "ribbon buttons <flag>".
 class FakeRibbonCommands final : public Orva::Plugin::IRibbonCommands, public JournalNotes {
 public:
     Orva::Plugin::RibbonIds BuildRibbonToolbar(bool toolbarEnabled) override;
-    void EnableRibbonToolbar(bool enable) override;
+    void SetOnOffCaption(bool enabled) override;
+    void EnableButtons(bool enable) override;
 
     Orva::Plugin::RibbonIds ids{101, 102, 103, 104, 105, 106, 107, 108, 109};
-    const std::vector<bool>& Enables() const { return m_enables; }
+    const std::wstring& OnOffCaption() const { return m_caption; }
+    bool ButtonsEnabled() const { return m_buttonsEnabled; }
 
 private:
-    std::vector<bool> m_enables;
+    std::wstring m_caption;
+    bool m_buttonsEnabled = true;
 };
 
 // The classic band: records "classic build <w> <l>", "classic refresh", "classic teardown",
