@@ -22,8 +22,9 @@ struct RibbonIds {
 class IRibbonCommands {
 public:
     virtual ~IRibbonCommands() = default;
-    // OnBuildRibbonToolbar: builds the group with the state of the toolbar-enabled flag and
-    // returns the ids it got (those created so far when the host failed).
+    // Creates the group, the logo drop-down with its five entries and the two reporting
+    // buttons, the on/off caption following `toolbarEnabled`, and logs the nine ids. Returns
+    // the ids it got (those created so far when the host failed).
     virtual RibbonIds BuildRibbonToolbar(bool toolbarEnabled) = 0;
     // The on/off entry's caption: "IDS_DISABLE_CAPTION" while enabled, else
     // "IDS_ENABLE_CAPTION".

@@ -34,6 +34,7 @@ struct ControllerPorts {
     ZelCommon::Platform::IShellOpen& shell;
     ZelCommon::Platform::IKeyboard& keyboard;
     ZelCommon::Platform::IProcessContext& process;
+    ZelCommon::Platform::IDebuggerOutput& debugger;
     Orva::Settings::IOsInfo& os;
     IControllerWindow& window;
     IHostObjects& host;
@@ -89,6 +90,7 @@ public:
     void OnWLMShutdown();
     intptr_t OnReQueryDefaultAccount(uintptr_t wParam, intptr_t lParam);
     intptr_t OnClickRibbonButton(uintptr_t wParam, intptr_t lParam);
+    void OnBuildRibbonToolbar();
     void EnableRibbonToolbar(bool enable);
     // The add-in's window procedure on the mail client's main window while it is hooked.
     intptr_t HookProcedure(ZelCommon::Platform::WindowHandle window, uint32_t message,

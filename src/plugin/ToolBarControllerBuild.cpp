@@ -51,7 +51,7 @@ intptr_t CToolBarController::OnBuildUI() {
     if (version == kClassicClientVersion) {
         m_parts.classic.OnBuildUserInterface(0, 0);
     } else if (version >= kFirstRibbonClientVersion && version <= kLastRibbonClientVersion) {
-        m_ribbonIds = m_parts.ribbon.BuildRibbonToolbar(m_bTBEnable);
+        OnBuildRibbonToolbar();
         m_ports.window.SetTimer(kMainWindowTimerId, kMainWindowTimerPeriod);
     } else {
         Log(L"!!! Not support WLM version");
@@ -63,6 +63,19 @@ intptr_t CToolBarController::OnBuildUI() {
     m_ports.messaging.Post(m_window, ControllerMessage::ReQueryDefaultAccount, 0, 0);
     Log(L"@@@ %s  OUT", L"CToolBarWnd::OnBuildUI");
     return 0;
+}
+
+void CToolBarController::OnBuildRibbonToolbar() {
+    constexpr wchar_t kName[] = L"CToolBarWnd::OnBuildRibbonToolbar";
+    Log(L"@@@ %s  IN", kName);
+    m_ribbonIds = m_parts.ribbon.BuildRibbonToolbar(m_bTBEnable);
+    if (m_bTBEnable) {
+        m_parts.spamFolder.CreateSpamMailFolder(false);
+    } else {
+        EnableRibbonToolbar(false);
+    }
+    Log(L"@@@ %s  OUT", kName);
+    m_ports.debugger.Write(L"tesr2");
 }
 
 void CToolBarController::OnTimer() {

@@ -54,6 +54,16 @@ public:
     uint32_t majorVersion = 6;
 };
 
+// Plain debugger lines (not the log's) as "debugger <text>".
+class JournalPlainDebugger final : public ZelCommon::Platform::IDebuggerOutput {
+public:
+    explicit JournalPlainDebugger(ZelCommon::Fakes::FakeJournal& journal) : m_journal(journal) {}
+    void Write(const std::wstring& text) override { m_journal.Add(L"debugger " + text); }
+
+private:
+    ZelCommon::Fakes::FakeJournal& m_journal;
+};
+
 inline std::wstring LogEntry(const std::wstring& text) {
     return L"log " + text;
 }
@@ -92,7 +102,7 @@ struct ControllerRig {
         if (!controller) {
             controller = std::make_unique<Plugin::CToolBarController>(
                 Plugin::ControllerPorts{messaging, clock, shutdownDone, hook, shell, keyboard,
-                                        process, os, window, host, version, log},
+                                        process, plainDebugger, os, window, host, version, log},
                 Plugin::ControllerParts{ribbon, classic, spamFolder, account, dialogs, strings,
                                         settings, agent});
             controller->SetWindow(controllerWindow);
@@ -139,6 +149,7 @@ struct ControllerRig {
     ZelCommon::Fakes::FakeWindowProcedureHook hook;
     ZelCommon::Fakes::FakeShellOpen shell;
     ZelCommon::Fakes::FakeKeyboard keyboard;
+    JournalPlainDebugger plainDebugger{journal};
     FakeOsInfo os;
     ZelCommon::Fakes::FakeControllerWindow window;
     ZelCommon::Fakes::FakeHostObjects host;

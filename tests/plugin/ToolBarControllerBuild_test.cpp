@@ -20,6 +20,8 @@ constexpr uint32_t kBuildUi = 4029;
 constexpr uint32_t kTimer = 275;
 const std::wstring kIn = LogEntry(L"@@@ CToolBarWnd::OnBuildUI  IN");
 const std::wstring kOut = LogEntry(L"@@@ CToolBarWnd::OnBuildUI  OUT");
+const std::wstring kRibbonIn = LogEntry(L"@@@ CToolBarWnd::OnBuildRibbonToolbar  IN");
+const std::wstring kRibbonOut = LogEntry(L"@@@ CToolBarWnd::OnBuildRibbonToolbar  OUT");
 const std::wstring kPostReQuery = L"post {113194CA-A0F5-4510-9814-D82C70CF9C6C} 4028 0 0";
 
 class RibbonVersions : public testing::TestWithParam<int> {};
@@ -31,8 +33,9 @@ TEST_P(RibbonVersions, BuildUI_BuildsRibbonStartsTimerAndReQueries) {
     EXPECT_THAT(
         rig.Journal(),
         ElementsAre(kIn, L"host InitializeCom", LogEntry(L"@@@ Creating NktWLMailApi::WLMailApi !"),
-                    L"host CreateApiObject", L"host AdviseApiSink", L"host StartGdiplus",
-                    L"ribbon build 1", L"timer set 1 1000", kPostReQuery, kOut));
+                    L"host CreateApiObject", L"host AdviseApiSink", L"host StartGdiplus", kRibbonIn,
+                    L"ribbon build 1", L"store create-folder 0", kRibbonOut, L"debugger tesr2",
+                    L"timer set 1 1000", kPostReQuery, kOut));
     EXPECT_EQ(rig.Controller().Ribbon().group, 101);
     EXPECT_EQ(rig.Controller().Ribbon().notSpam, 109);
     EXPECT_EQ(rig.Controller().MailClientMajorVersion(), GetParam());
@@ -120,6 +123,23 @@ INSTANTIATE_TEST_SUITE_P(Values, EnableTBarValues,
                                          FlagCase{L"", true}, FlagCase{L"00", true},
                                          FlagCase{L"no", true}, FlagCase{L"0 1", true},
                                          FlagCase{std::nullopt, true}));
+
+TEST(ControllerBuildUI, DisabledAtStart_RibbonShowsEnableAndButtonsOff) {
+    ControllerRig rig;
+    rig.SetEnableTBar(L"0");
+    rig.AddAgent();
+    rig.Dispatch(kBuildUi);
+    EXPECT_THAT(
+        rig.Journal(),
+        ElementsAre(kIn, L"host InitializeCom", LogEntry(L"@@@ Creating NktWLMailApi::WLMailApi !"),
+                    L"host CreateApiObject", L"host AdviseApiSink", L"host StartGdiplus", kRibbonIn,
+                    L"ribbon build 0", LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  IN"),
+                    AgentEntry(L"post", 1069), L"ribbon caption IDS_ENABLE_CAPTION",
+                    L"ribbon buttons 0", LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  OUT"),
+                    kRibbonOut, L"debugger tesr2", L"timer set 1 1000", kPostReQuery, kOut));
+    EXPECT_EQ(rig.ribbon.OnOffCaption(), L"IDS_ENABLE_CAPTION");
+    EXPECT_FALSE(rig.ribbon.ButtonsEnabled());
+}
 
 TEST(ControllerTimer, MainWindowAppears_AttachesAndStopsTheTimer) {
     ControllerRig rig;

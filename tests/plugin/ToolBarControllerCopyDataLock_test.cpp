@@ -69,8 +69,8 @@ TEST(ControllerCopyDataLock, SecondRequestWaitsForTheFirstToFinish) {
     BlockingSpamFolder folder;
     Orva::Plugin::CToolBarController controller(
         Orva::Plugin::ControllerPorts{rig.messaging, rig.clock, rig.shutdownDone, rig.hook,
-                                      rig.shell, rig.keyboard, rig.process, rig.os, rig.window,
-                                      rig.host, rig.version, rig.log},
+                                      rig.shell, rig.keyboard, rig.process, rig.plainDebugger,
+                                      rig.os, rig.window, rig.host, rig.version, rig.log},
         Orva::Plugin::ControllerParts{rig.ribbon, rig.classic, folder, rig.account, rig.dialogs,
                                       rig.strings, rig.settings, rig.agent});
     const auto first = DeleteAllRecord(1);
