@@ -165,10 +165,10 @@ std::wstring DecodeValue(std::string_view utf8) {
     return text;
 }
 
-bool AppendStorableUtf8(std::string& out, std::wstring_view value) {
-    if (!value.empty() && (IsBlank(value.front()) || IsBlank(value.back()))) {
-        return false;
-    }
+namespace {
+
+// Every value that AppendStorableUtf8's fast path does not take: checked in full.
+bool AppendCheckedUtf8(std::string& out, std::wstring_view value) {
     bool control = false;
     bool mayHoldTag = false;
     bool nonAscii = false;
@@ -195,6 +195,31 @@ bool AppendStorableUtf8(std::string& out, std::wstring_view value) {
         *target++ = static_cast<char>(c);
     }
     return true;
+}
+
+}  // namespace
+
+bool AppendStorableUtf8(std::string& out, std::wstring_view value) {
+    if (!value.empty() && (IsBlank(value.front()) || IsBlank(value.back()))) {
+        return false;
+    }
+    // Most names and addresses are printable ASCII without '<': copy them in one pass, which
+    // the compiler vectorises, and check anything else in full.
+    const size_t start = out.size();
+    out.resize(start + value.size());
+    char* target = out.data() + start;
+    uint32_t special = 0;
+    for (const wchar_t c : value) {
+        const auto code = static_cast<uint32_t>(c);
+        special |=
+            static_cast<uint32_t>(code - 0x20u >= 0x5Fu) | static_cast<uint32_t>(code == 0x3Cu);
+        *target++ = static_cast<char>(code);
+    }
+    if (special == 0) {
+        return true;
+    }
+    out.resize(start);
+    return AppendCheckedUtf8(out, value);
 }
 
 void AppendUtf8(std::string& out, std::wstring_view text) {
