@@ -185,25 +185,16 @@ RegHandle MemoryRegistry::NewHandle(std::shared_ptr<Node> node, uint32_t access)
 
 int32_t MemoryRegistry::OpenKey(RegHandle parent, const wchar_t* subKey, uint32_t access,
                                 RegHandle* result) {
-    if (result == nullptr) {
-        return RegStatus::InvalidParameter;
-    }
-    std::lock_guard<std::mutex> guard(m_lock);
-    std::shared_ptr<Node> start;
-    std::shared_ptr<Node> found;
-    int32_t status = Resolve(parent, 0, start);
-    if (status == RegStatus::Success) {
-        status = Walk(start, subKey, false, found);
-    }
-    if (status != RegStatus::Success) {
-        return status;
-    }
-    *result = NewHandle(std::move(found), GrantedAccess(access));
-    return RegStatus::Success;
+    return OpenOrCreate(parent, subKey, access, false, result);
 }
 
 int32_t MemoryRegistry::CreateKey(RegHandle parent, const wchar_t* subKey, uint32_t access,
                                   const void*, RegHandle* result) {
+    return OpenOrCreate(parent, subKey, access, true, result);
+}
+
+int32_t MemoryRegistry::OpenOrCreate(RegHandle parent, const wchar_t* subKey, uint32_t access,
+                                     bool create, RegHandle* result) {
     if (result == nullptr) {
         return RegStatus::InvalidParameter;
     }
@@ -212,7 +203,7 @@ int32_t MemoryRegistry::CreateKey(RegHandle parent, const wchar_t* subKey, uint3
     std::shared_ptr<Node> found;
     int32_t status = Resolve(parent, 0, start);
     if (status == RegStatus::Success) {
-        status = Walk(start, subKey, true, found);
+        status = Walk(start, subKey, create, found);
     }
     if (status != RegStatus::Success) {
         return status;

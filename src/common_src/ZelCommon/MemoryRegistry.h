@@ -55,6 +55,8 @@ private:
     int32_t Walk(const std::shared_ptr<Node>& start, const wchar_t* subKey, bool create,
                  std::shared_ptr<Node>& found);
     RegHandle NewHandle(std::shared_ptr<Node> node, uint32_t access);
+    int32_t OpenOrCreate(RegHandle parent, const wchar_t* subKey, uint32_t access, bool create,
+                         RegHandle* result);
 
     mutable std::mutex m_lock;
     std::map<RegHandle, std::shared_ptr<Node>> m_roots;
