@@ -4,6 +4,7 @@
 
 #include "CommandErrors.h"
 #include "FileChecks.h"
+#include "NamedOption.h"
 #include "Orvactl.h"
 #include "SettingsReport.h"
 #include "TextTable.h"
@@ -24,14 +25,7 @@ std::optional<Folders> ParseFolders(std::span<const std::wstring> args, ITextSin
                                     int& exitCode) {
     Folders folders;
     for (size_t at = 0; at < args.size(); ++at) {
-        std::wstring name = args[at];
-        std::optional<std::wstring> value;
-        if (const size_t equals = name.find(L'='); equals != std::wstring::npos) {
-            value = name.substr(equals + 1);
-            name.resize(equals);
-        } else if (at + 1 < args.size()) {
-            value = args[++at];
-        }
+        const auto [name, value] = TakeNamedOption(args, at);
         std::wstring* target = name == L"--install-dir" ? &folders.install
                                : name == L"--user-dir"  ? &folders.user
                                                         : nullptr;

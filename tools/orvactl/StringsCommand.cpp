@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "CommandErrors.h"
+#include "NamedOption.h"
 #include "Orvactl.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
@@ -27,22 +28,15 @@ std::optional<StringsOptions> ParseOptions(std::span<const std::wstring> args, I
                                            int& exitCode) {
     StringsOptions options;
     for (size_t at = 0; at < args.size(); ++at) {
-        std::wstring name = args[at];
-        if (name.rfind(L"--", 0) != 0) {
+        if (args[at].rfind(L"--", 0) != 0) {
             if (options.id) {
-                exitCode = ReportUsageError(err, L"'strings' takes one ID, not " + name);
+                exitCode = ReportUsageError(err, L"'strings' takes one ID, not " + args[at]);
                 return std::nullopt;
             }
-            options.id = name;
+            options.id = args[at];
             continue;
         }
-        std::optional<std::wstring> value;
-        if (const size_t equals = name.find(L'='); equals != std::wstring::npos) {
-            value = name.substr(equals + 1);
-            name.resize(equals);
-        } else if (at + 1 < args.size()) {
-            value = args[++at];
-        }
+        const auto [name, value] = TakeNamedOption(args, at);
         std::wstring* target = name == L"--locale"            ? &options.localeName
                                : name == L"--resource-folder" ? &options.resourceFolder
                                : name == L"--section"         ? &options.section
