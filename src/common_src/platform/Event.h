@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 namespace ZelCommon::Platform {
 
@@ -12,5 +13,8 @@ public:
     // True when the event was signalled within `milliseconds`.
     virtual bool Wait(uint32_t milliseconds) = 0;
 };
+
+// Each call makes a new event of its own; an event that could not be created never signals.
+std::unique_ptr<IEvent> CreateAutoResetEvent();
 
 }  // namespace ZelCommon::Platform
