@@ -14,4 +14,6 @@ public:
     virtual bool Launch(const std::wstring& commandLine, const std::wstring& workingFolder) = 0;
 };
 
+IProcessLauncher& SystemProcessLauncher();
+
 }  // namespace ZelCommon::Platform
