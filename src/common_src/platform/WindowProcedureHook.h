@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "common_src/platform/WindowMessaging.h"
 
@@ -26,5 +27,8 @@ public:
     virtual intptr_t CallDefault(WindowHandle window, uint32_t message, uintptr_t wParam,
                                  intptr_t lParam) = 0;
 };
+
+// `hookProcedure` is the WNDPROC that InstallHook puts in place.
+std::unique_ptr<IWindowProcedureHook> CreateWindowProcedureHook(WindowProcedure hookProcedure);
 
 }  // namespace ZelCommon::Platform
