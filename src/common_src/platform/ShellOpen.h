@@ -8,7 +8,10 @@ namespace ZelCommon::Platform {
 class IShellOpen {
 public:
     virtual ~IShellOpen() = default;
+    // False for an empty address or when the shell found nothing to open it with.
     virtual bool OpenAddress(const std::wstring& address) = 0;
 };
+
+IShellOpen& SystemShellOpen();
 
 }  // namespace ZelCommon::Platform
