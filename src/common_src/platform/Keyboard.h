@@ -10,4 +10,6 @@ public:
     virtual bool IsShiftDown() = 0;
 };
 
+IKeyboard& SystemKeyboard();
+
 }  // namespace ZelCommon::Platform
