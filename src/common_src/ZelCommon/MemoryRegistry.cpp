@@ -199,17 +199,20 @@ int32_t MemoryRegistry::OpenOrCreate(RegHandle parent, const wchar_t* subKey, ui
         return RegStatus::InvalidParameter;
     }
     std::lock_guard<std::mutex> guard(m_lock);
-    std::shared_ptr<Node> start;
     std::shared_ptr<Node> found;
-    int32_t status = Resolve(parent, 0, start);
-    if (status == RegStatus::Success) {
-        status = Walk(start, subKey, create, found);
-    }
-    if (status != RegStatus::Success) {
+    if (const int32_t status = FindBelow(parent, subKey, create, found);
+        status != RegStatus::Success) {
         return status;
     }
     *result = NewHandle(std::move(found), GrantedAccess(access));
     return RegStatus::Success;
+}
+
+int32_t MemoryRegistry::FindBelow(RegHandle parent, const wchar_t* subKey, bool create,
+                                  std::shared_ptr<Node>& found) {
+    std::shared_ptr<Node> start;
+    const int32_t status = Resolve(parent, 0, start);
+    return status == RegStatus::Success ? Walk(start, subKey, create, found) : status;
 }
 
 int32_t MemoryRegistry::CloseKey(RegHandle key) {
@@ -301,13 +304,9 @@ int32_t MemoryRegistry::DeleteKey(RegHandle parent, const wchar_t* subKey) {
         return RegStatus::InvalidParameter;
     }
     std::lock_guard<std::mutex> guard(m_lock);
-    std::shared_ptr<Node> start;
     std::shared_ptr<Node> target;
-    int32_t status = Resolve(parent, 0, start);
-    if (status == RegStatus::Success) {
-        status = Walk(start, subKey, false, target);
-    }
-    if (status != RegStatus::Success) {
+    if (const int32_t status = FindBelow(parent, subKey, false, target);
+        status != RegStatus::Success) {
         return status;
     }
     std::shared_ptr<Node> owner = target->parent.lock();

@@ -54,6 +54,9 @@ private:
     int32_t Resolve(RegHandle key, uint32_t requiredAccess, std::shared_ptr<Node>& node) const;
     int32_t Walk(const std::shared_ptr<Node>& start, const wchar_t* subKey, bool create,
                  std::shared_ptr<Node>& found);
+    // Resolve, then Walk: the key `subKey` below an open handle. Called with the lock held.
+    int32_t FindBelow(RegHandle parent, const wchar_t* subKey, bool create,
+                      std::shared_ptr<Node>& found);
     RegHandle NewHandle(std::shared_ptr<Node> node, uint32_t access);
     int32_t OpenOrCreate(RegHandle parent, const wchar_t* subKey, uint32_t access, bool create,
                          RegHandle* result);
