@@ -21,6 +21,23 @@ protected:
     Base& operator=(const Base&) = default;
 };
 
+// A failed Win32 call: its error code, and the line and file of our statement that threw.
+class Win32Failure : public Base {
+public:
+    uint32_t ErrorCode() const { return m_errorCode; }
+    uint32_t SourceLine() const { return m_sourceLine; }
+    const std::string& SourceFile() const { return m_sourceFile; }
+
+protected:
+    Win32Failure(uint32_t errorCode, uint32_t sourceLine, std::string sourceFile)
+        : m_errorCode(errorCode), m_sourceLine(sourceLine), m_sourceFile(std::move(sourceFile)) {}
+
+private:
+    uint32_t m_errorCode;
+    uint32_t m_sourceLine;
+    std::string m_sourceFile;
+};
+
 template <class T, class... Args>
 [[noreturn]] void ThrowNew(Args&&... args) {
     throw new T(std::forward<Args>(args)...);

@@ -9,20 +9,12 @@
 namespace ZelCommon::AccessControl {
 
 // A security descriptor could not be built: the Win32 error code and where we threw it.
-class Exception : public ZelCommon::Exception::Base {
+class Exception : public ZelCommon::Exception::Win32Failure {
 public:
     Exception(uint32_t errorCode, uint32_t sourceLine, std::string sourceFile)
-        : m_errorCode(errorCode), m_sourceLine(sourceLine), m_sourceFile(std::move(sourceFile)) {}
+        : Win32Failure(errorCode, sourceLine, std::move(sourceFile)) {}
 
     const char* TypeName() const override { return "ZelCommon::AccessControl::Exception"; }
-    uint32_t ErrorCode() const { return m_errorCode; }
-    uint32_t SourceLine() const { return m_sourceLine; }
-    const std::string& SourceFile() const { return m_sourceFile; }
-
-private:
-    uint32_t m_errorCode;
-    uint32_t m_sourceLine;
-    std::string m_sourceFile;
 };
 
 // The DACL every registry key we create gets, in SDDL. The agent runs elevated and reads these
