@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common_src/platform/WindowMessaging.h"
+#include "support/TestWindow_win.h"
 
 namespace {
 
@@ -22,31 +23,10 @@ LRESULT CALLBACK TestWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
     return ::DefWindowProcW(window, message, wParam, lParam);
 }
 
-class TestWindow {
+// The window every test here talks to.
+class TestWindow : public Orva::Testing::TestWindow {
 public:
-    TestWindow() {
-        WNDCLASSW wc{};
-        wc.lpfnWndProc = TestWindowProc;
-        wc.hInstance = ::GetModuleHandleW(nullptr);
-        wc.lpszClassName = kClassName;
-        ::RegisterClassW(&wc);
-        m_window = ::CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW, 0, 0, 100, 100,
-                                     nullptr, nullptr, ::GetModuleHandleW(nullptr), nullptr);
-    }
-    ~TestWindow() {
-        if (m_window != nullptr) {
-            ::DestroyWindow(m_window);
-        }
-        ::UnregisterClassW(kClassName, ::GetModuleHandleW(nullptr));
-    }
-    TestWindow(const TestWindow&) = delete;
-    TestWindow& operator=(const TestWindow&) = delete;
-
-    HWND get() const { return m_window; }
-    WindowHandle handle() const { return reinterpret_cast<WindowHandle>(m_window); }
-
-private:
-    HWND m_window = nullptr;
+    TestWindow() : Orva::Testing::TestWindow(kClassName, kTitle, TestWindowProc) {}
 };
 
 TEST(SystemWindowMessagingWin, FindByTitleAndClass_FindTheWindow) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "common_src/platform/WindowProcedureHook.h"
+#include "support/TestWindow_win.h"
 
 namespace {
 
@@ -39,33 +40,18 @@ WindowProcedure ValueOf(WNDPROC procedure) {
     return reinterpret_cast<WindowProcedure>(procedure);
 }
 
-class TestWindow {
+// A window whose class procedure is OriginalProc; whatever a test installed is put back before
+// the window goes.
+class TestWindow : public Orva::Testing::TestWindow {
 public:
-    TestWindow() {
-        WNDCLASSW wc{};
-        wc.lpfnWndProc = OriginalProc;
-        wc.hInstance = ::GetModuleHandleW(nullptr);
-        wc.lpszClassName = kClassName;
-        ::RegisterClassW(&wc);
-        m_window = ::CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW, 0, 0, 100, 100,
-                                     nullptr, nullptr, ::GetModuleHandleW(nullptr), nullptr);
+    TestWindow() : Orva::Testing::TestWindow(kClassName, kTitle, OriginalProc) {
         g_hookSaw.clear();
     }
     ~TestWindow() {
-        if (m_window != nullptr) {
-            ::SetWindowLongPtrW(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OriginalProc));
-            ::DestroyWindow(m_window);
+        if (get() != nullptr) {
+            ::SetWindowLongPtrW(get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OriginalProc));
         }
-        ::UnregisterClassW(kClassName, ::GetModuleHandleW(nullptr));
     }
-    TestWindow(const TestWindow&) = delete;
-    TestWindow& operator=(const TestWindow&) = delete;
-
-    HWND get() const { return m_window; }
-    WindowHandle handle() const { return reinterpret_cast<WindowHandle>(m_window); }
-
-private:
-    HWND m_window = nullptr;
 };
 
 std::unique_ptr<IWindowProcedureHook> NewHook() {
