@@ -1,7 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <stdexcept>
 #include <string>
+
+#include "plugin/HostEventRelay.h"
 
 namespace Orva::Plugin {
 
@@ -38,5 +41,10 @@ public:
     virtual void StartGdiplus() = 0;
     virtual void ShutdownGdiplus() = 0;
 };
+
+// The host's objects in this process: COM objects of the plug-in host on Windows, whose sinks
+// relay through `relay`; natively there is no host and nothing can be created.
+std::unique_ptr<IHostObjects> CreateSystemHostObjects(CHostEventRelay& relay,
+                                                      ZelCommon::Library::DebugLog& log);
 
 }  // namespace Orva::Plugin
