@@ -1,6 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
+
+#include "common_src/platform/ProcessContext.h"
 
 namespace Orva::Plugin {
 
@@ -10,6 +13,23 @@ class IMailClientVersion {
 public:
     virtual ~IMailClientVersion() = default;
     virtual std::optional<int> MajorVersion() = 0;
+};
+
+// The leading number of a version text, as resource compilers write it ("16.4.3528.0331" or
+// "14, 0, 8117, 0416"); none when the text does not start with a digit or the number is absurd.
+std::optional<int> MajorVersionOf(std::wstring_view fileVersion);
+
+// The "FileVersion" of the executable that loaded the add-in; natively the variable
+// ORVA_MAIL_CLIENT_VERSION stands in for it.
+class CMailClientVersion final : public IMailClientVersion {
+public:
+    explicit CMailClientVersion(
+        ZelCommon::Platform::IProcessContext& process = ZelCommon::Platform::SystemProcessContext())
+        : m_process(process) {}
+    std::optional<int> MajorVersion() override;
+
+private:
+    ZelCommon::Platform::IProcessContext& m_process;
 };
 
 }  // namespace Orva::Plugin

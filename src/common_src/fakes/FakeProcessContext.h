@@ -16,12 +16,14 @@ public:
     uint32_t ProcessId() const override { return m_processId; }
     uint32_t ThreadId() const override { return m_threadId; }
     std::wstring ModuleFilePath() const override { return m_moduleFilePath; }
+    std::wstring ExecutableFilePath() const override { return m_executableFilePath; }
     std::wstring CommonAppDataFolder() const override { return m_commonAppData; }
     uint32_t LastError() const override { return m_lastError; }
 
     void SetProcessId(uint32_t id) { m_processId = id; }
     void SetThreadId(uint32_t id) { m_threadId = id; }
     void SetModuleFilePath(std::wstring path) { m_moduleFilePath = std::move(path); }
+    void SetExecutableFilePath(std::wstring path) { m_executableFilePath = std::move(path); }
     void SetCommonAppDataFolder(std::wstring folder) { m_commonAppData = std::move(folder); }
     void SetLastError(uint32_t error) { m_lastError = error; }
 
@@ -29,6 +31,7 @@ private:
     uint32_t m_processId = 0x1234;
     uint32_t m_threadId = 0x5678;
     std::wstring m_moduleFilePath = L"C:\\Program Files\\Halvion\\WLM\\ORVA_WLMA.dll";
+    std::wstring m_executableFilePath = L"C:\\Program Files\\Windows Live\\Mail\\wlmail.exe";
     std::wstring m_commonAppData = L"C:\\ProgramData";
     uint32_t m_lastError = 0;
 };

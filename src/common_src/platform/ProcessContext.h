@@ -13,6 +13,8 @@ public:
     virtual uint32_t ThreadId() const = 0;
     // The full path of the add-in's own module file (the DLL on Windows; the program natively).
     virtual std::wstring ModuleFilePath() const = 0;
+    // The full path of the process's executable: the mail client that loaded the add-in.
+    virtual std::wstring ExecutableFilePath() const = 0;
     // The common application-data folder (CSIDL_COMMON_APPDATA), without a final separator.
     virtual std::wstring CommonAppDataFolder() const = 0;
     // The error code of the calling thread's last failing system call.

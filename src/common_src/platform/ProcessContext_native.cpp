@@ -19,7 +19,10 @@ public:
     uint32_t ProcessId() const override { return static_cast<uint32_t>(::getpid()); }
     uint32_t ThreadId() const override { return static_cast<uint32_t>(::gettid()); }
 
-    std::wstring ModuleFilePath() const override {
+    // Natively the add-in's code is linked into the program itself.
+    std::wstring ModuleFilePath() const override { return ExecutableFilePath(); }
+
+    std::wstring ExecutableFilePath() const override {
         std::error_code error;
         const std::filesystem::path exe = std::filesystem::read_symlink("/proc/self/exe", error);
         return error ? std::wstring() : Text::Utf8ToWide(exe.string());

@@ -21,30 +21,33 @@ HMODULE OwnModule() {
     return module;
 }
 
+// The module's file name, read into a buffer that grows until the path fits.
+std::wstring FileNameOf(HMODULE module) {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD capacity = static_cast<DWORD>(path.size());
+        const DWORD length = ::GetModuleFileNameW(module, path.data(), capacity);
+        if (length == 0) {
+            return {};
+        }
+        if (length < capacity) {
+            path.resize(length);
+            return path;
+        }
+        if (path.size() >= 32768) {
+            return {};
+        }
+        path.resize(path.size() * 2);
+    }
+}
+
 class WindowsProcessContext final : public IProcessContext {
 public:
     uint32_t ProcessId() const override { return ::GetCurrentProcessId(); }
     uint32_t ThreadId() const override { return ::GetCurrentThreadId(); }
 
-    std::wstring ModuleFilePath() const override {
-        const HMODULE module = OwnModule();
-        std::wstring path(MAX_PATH, L'\0');
-        for (;;) {
-            const DWORD capacity = static_cast<DWORD>(path.size());
-            const DWORD length = ::GetModuleFileNameW(module, path.data(), capacity);
-            if (length == 0) {
-                return {};
-            }
-            if (length < capacity) {
-                path.resize(length);
-                return path;
-            }
-            if (path.size() >= 32768) {
-                return {};
-            }
-            path.resize(path.size() * 2);
-        }
-    }
+    std::wstring ModuleFilePath() const override { return FileNameOf(OwnModule()); }
+    std::wstring ExecutableFilePath() const override { return FileNameOf(nullptr); }
 
     std::wstring CommonAppDataFolder() const override {
         wchar_t folder[MAX_PATH] = {};
