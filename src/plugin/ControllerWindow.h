@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+
+#include "common_src/platform/WindowMessaging.h"
 
 namespace Orva::Plugin {
 
@@ -13,5 +16,9 @@ public:
     virtual bool SetTimer(uintptr_t id, uint32_t milliseconds) = 0;
     virtual bool KillTimer(uintptr_t id) = 0;
 };
+
+// The window calls on a real window; natively there are no windows and every call fails.
+std::unique_ptr<IControllerWindow> CreateSystemControllerWindow(
+    ZelCommon::Platform::WindowHandle window);
 
 }  // namespace Orva::Plugin
