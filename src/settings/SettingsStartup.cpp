@@ -6,13 +6,12 @@
 
 namespace Orva::Settings {
 
-StartedSettings StartAddinSettings(ZelCommon::Platform::IProcessContext& process,
-                                   ZelCommon::Storage::IRegistryApi& registry,
+StartedSettings StartAddinSettings(const SettingsPaths& paths,
                                    ZelCommon::Storage::IProfileApi& profile, bool windows64,
                                    const std::wstring& addinVersion,
                                    ZelCommon::Library::DebugLog& log) {
     StartedSettings started;
-    started.paths = ComputeSettingsPaths(process, registry);
+    started.paths = paths;
     started.files = FilesOf(started.paths, windows64);
     SettingsStore store(profile, started.files);
 

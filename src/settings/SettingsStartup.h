@@ -5,8 +5,6 @@
 #include <vector>
 
 #include "common_src/ZelCommon/ProfileApi.h"
-#include "common_src/ZelCommon/RegistryApi.h"
-#include "common_src/platform/ProcessContext.h"
 #include "settings/DebugLog.h"
 #include "settings/Presets.h"
 #include "settings/SettingsPaths.h"
@@ -22,12 +20,11 @@ struct StartedSettings {
     int32_t startCount = 0;
 };
 
-// Everything the add-in does with its settings when it starts: fixes the folders and files
-// (creating the data and per-user folders), switches the debug log on when the deployment
-// asks for it, so that the later steps can already log, copies the presets, counts the start,
-// records the add-in's file version and writes the shared version file.
-StartedSettings StartAddinSettings(ZelCommon::Platform::IProcessContext& process,
-                                   ZelCommon::Storage::IRegistryApi& registry,
+// Everything the add-in does with its settings once its controller exists, on the folders the
+// application fixed at start (ComputeSettingsPaths): switches the debug log on when the
+// deployment asks for it, so that the later steps can already log, copies the presets, counts
+// the start, records the add-in's file version and writes the shared version file.
+StartedSettings StartAddinSettings(const SettingsPaths& paths,
                                    ZelCommon::Storage::IProfileApi& profile, bool windows64,
                                    const std::wstring& addinVersion,
                                    ZelCommon::Library::DebugLog& log);

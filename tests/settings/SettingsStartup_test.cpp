@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "support/TempFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/Registry.h"
 #include "common_src/fakes/FakeClock.h"
 #include "common_src/fakes/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
+#include "support/TempFolder.h"
 
 namespace Orva::Settings {
 namespace {
@@ -31,8 +31,8 @@ protected:
                                        (addinFolder + L"ORVA_WLM.ini").c_str());
     }
     StartedSettings Start(bool windows64 = false) {
-        return StartAddinSettings(process, registry, SystemProfileApi(), windows64, L"3.1.0.7",
-                                  log);
+        return StartAddinSettings(ComputeSettingsPaths(process, registry), SystemProfileApi(),
+                                  windows64, L"3.1.0.7", log);
     }
 
     Testing::TempFolder temp;
