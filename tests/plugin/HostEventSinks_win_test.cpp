@@ -1,0 +1,233 @@
+#include "plugin/HostEventSinks_win.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "plugin/HostEventRig_win.h"
+
+namespace Orva::Plugin {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+using Testing::ByRef;
+using Testing::ControllerMessageRecord;
+using testing::ElementsAre;
+using Testing::FireEvent;
+using Testing::HostEventRig;
+using Testing::Int32Arg;
+using Testing::Int64Arg;
+using testing::IsEmpty;
+using Testing::Signed;
+
+constexpr DISPID kToolbarClicked = 1;
+constexpr DISPID kFolderChanged = 3;
+
+struct FolderCase {
+    const char* name;
+    VARIANT argument;
+    WPARAM high;
+    LPARAM low;
+};
+
+TEST(HostEventSinks, FolderSelection_PostsTheIdsHalvesWhateverIntegerCarriesIt) {
+    VARIANT byRefTarget = Int64Arg(0x100000002LL);
+    VARIANT unsignedId{};
+    V_VT(&unsignedId) = VT_UI8;
+    V_UI8(&unsignedId) = 0xFFFFFFFFFFFFFFFFull;
+    const FolderCase cases[] = {
+        {"I8", Int64Arg(0x100000002LL), 1, 2},
+        {"I8 by reference", ByRef(byRefTarget), 1, 2},
+        {"I8 no folder", Int64Arg(-1), 0xFFFFFFFFu, static_cast<LPARAM>(0xFFFFFFFFu)},
+        {"UI8", unsignedId, 0xFFFFFFFFu, static_cast<LPARAM>(0xFFFFFFFFu)},
+        {"I4", Int32Arg(7), 0, 7},
+    };
+    for (const FolderCase& each : cases) {
+        SCOPED_TRACE(each.name);
+        HostEventRig rig;
+        const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+        EXPECT_EQ(FireEvent(*sink.Get(), kFolderChanged, {each.argument}), S_OK);
+        EXPECT_THAT(rig.Messages(),
+                    ElementsAre(ControllerMessageRecord{1076, each.high, each.low}));
+    }
+}
+
+TEST(HostEventSinks, FolderSelection_LogsTheIdInHex) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+    FireEvent(*sink.Get(), kFolderChanged, {Int64Arg(0x100000002LL)});
+    EXPECT_THAT(
+        rig.output.lines,
+        ElementsAre(L"@@@ CWLMAApiEventSink::OnFolderSelectionChanged folderId=[0x100000002]"));
+}
+
+TEST(HostEventSinks, ToolbarClick_PostsToolbarThenButtonSignExtended) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+    VARIANT button = Int32Arg(-3);
+    EXPECT_EQ(FireEvent(*sink.Get(), kToolbarClicked, {Int32Arg(7), ByRef(button)}), S_OK);
+    EXPECT_EQ(FireEvent(*sink.Get(), kToolbarClicked, {Int32Arg(-2), Int32Arg(9)}), S_OK);
+    EXPECT_THAT(rig.Messages(), ElementsAre(ControllerMessageRecord{4031, 7, -3},
+                                            ControllerMessageRecord{4031, Signed(-2), 9}));
+}
+
+TEST(HostEventSinks, OtherApiEvents_PostNothing) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+    for (DISPID id = 4; id <= 10; ++id) {
+        EXPECT_EQ(FireEvent(*sink.Get(), id, {Int32Arg(1)}), S_OK);
+    }
+    EXPECT_EQ(FireEvent(*sink.Get(), 2, {}), S_OK);
+    EXPECT_EQ(FireEvent(*sink.Get(), 999, {Int32Arg(1), Int32Arg(2)}), S_OK);
+    EXPECT_THAT(rig.Messages(), IsEmpty());
+}
+
+struct BadCallCase {
+    const char* name;
+    DISPID id;
+    std::vector<VARIANT> args;
+    HRESULT expected;
+};
+
+TEST(HostEventSinks, WrongArguments_AreRefusedWithOneLineAndNoMessage) {
+    VARIANT text{};
+    V_VT(&text) = VT_BSTR;
+    V_BSTR(&text) = ::SysAllocString(L"not a number");
+    VARIANT empty{};
+    const BadCallCase cases[] = {
+        {"text id", kToolbarClicked, {Int32Arg(1), text}, DISP_E_TYPEMISMATCH},
+        {"missing value", kFolderChanged, {empty}, DISP_E_TYPEMISMATCH},
+        {"too big for 32 bits",
+         kToolbarClicked,
+         {Int64Arg(1LL << 40), Int32Arg(1)},
+         DISP_E_TYPEMISMATCH},
+        {"one argument short", kToolbarClicked, {Int32Arg(1)}, DISP_E_BADPARAMCOUNT},
+        {"one argument over", kFolderChanged, {Int64Arg(1), Int64Arg(2)}, DISP_E_BADPARAMCOUNT},
+    };
+    for (const BadCallCase& each : cases) {
+        SCOPED_TRACE(each.name);
+        HostEventRig rig;
+        const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+        EXPECT_EQ(FireEvent(*sink.Get(), each.id, each.args), each.expected);
+        EXPECT_THAT(rig.Messages(), IsEmpty());
+        ASSERT_EQ(rig.output.lines.size(), 1u);
+        EXPECT_THAT(rig.output.lines[0], testing::StartsWith(L"XXX CWLMAApiEventSink::On"));
+    }
+    ::SysFreeString(V_BSTR(&text));
+}
+
+TEST(HostEventSinks, TypeMismatch_NamesTheOffendingSlot) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+    VARIANT object{};
+    V_VT(&object) = VT_UNKNOWN;
+    V_UNKNOWN(&object) = sink.Get();
+    UINT argError = 99;
+    // The toolbar id comes first, so it is the last slot of the reversed arguments.
+    EXPECT_EQ(FireEvent(*sink.Get(), kToolbarClicked, {object, Int32Arg(1)}, &argError),
+              DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(argError, 1u);
+}
+
+TEST(HostEventSinks, Ready_SendsBuildUiBeforeReturning) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMApiInitEventSink>(rig.relay, rig.log);
+    EXPECT_EQ(FireEvent(*sink.Get(), 1, {}), S_OK);
+    EXPECT_THAT(Testing::ReceivedMessages(), ElementsAre(ControllerMessageRecord{4029, 0, 0}));
+}
+
+TEST(HostEventSinks, Shutdown_SendsShutdownThenPostsClose) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMApiInitEventSink>(rig.relay, rig.log);
+    EXPECT_EQ(FireEvent(*sink.Get(), 2, {}), S_OK);
+    EXPECT_THAT(rig.Messages(), ElementsAre(ControllerMessageRecord{4030, 0, 0},
+                                            ControllerMessageRecord{WM_CLOSE, 0, 0}));
+}
+
+TEST(HostEventSinks, DefaultAccountChange_PostsReQueryWithOnes) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMAMailAccountManagerEventSink>(rig.relay, rig.log);
+    EXPECT_EQ(FireEvent(*sink.Get(), 1, {}), S_OK);
+    EXPECT_THAT(rig.Messages(), ElementsAre(ControllerMessageRecord{4028, 1, 1}));
+}
+
+struct EntryCase {
+    const char* name;
+    std::function<ComPtr<CSubButtonEventSink>(HostEventRig&)> make;
+    LPARAM index;
+};
+
+template <class Sink>
+ComPtr<CSubButtonEventSink> Make(HostEventRig& rig) {
+    return MakeSink<Sink>(rig.relay, rig.log);
+}
+
+TEST(HostEventSinks, DropDownEntries_PostTheirIndexForEitherClickEvent) {
+    const EntryCase cases[] = {
+        {"settings", Make<CSettingBtnEventSink>, 0},
+        {"statistics", Make<CStatisticBtnEventSink>, 1},
+        {"on/off", Make<COnOffBtnEventSink>, 2},
+        {"help", Make<CHelpBtnEventSink>, 3},
+        {"about", Make<CAboutBtnEventSink>, 4},
+    };
+    for (const EntryCase& each : cases) {
+        SCOPED_TRACE(each.name);
+        HostEventRig rig;
+        const auto sink = each.make(rig);
+        EXPECT_EQ(FireEvent(*sink.Get(), 1, {}), S_OK);
+        EXPECT_EQ(FireEvent(*sink.Get(), 2, {Int32Arg(5)}), S_OK);
+        EXPECT_THAT(rig.Messages(),
+                    ElementsAre(ControllerMessageRecord{4031, Signed(-1), each.index},
+                                ControllerMessageRecord{4031, Signed(-1), each.index}));
+    }
+}
+
+TEST(HostEventSinks, NoControllerWindow_NothingIsPosted) {
+    HostEventRig rig(false);
+    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+    EXPECT_EQ(FireEvent(*sink.Get(), kToolbarClicked, {Int32Arg(1), Int32Arg(2)}), S_OK);
+    EXPECT_EQ(FireEvent(*sink.Get(), kFolderChanged, {Int64Arg(3)}), S_OK);
+    EXPECT_THAT(rig.Messages(), IsEmpty());
+}
+
+TEST(HostEventSinks, GetIDsOfNames_AnswersDeclaredNamesInAnyCase) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+    wchar_t known[] = L"onfolderselectionchanged";
+    wchar_t unknown[] = L"OnSomethingElse";
+    LPOLESTR names[] = {known};
+    DISPID id = 0;
+    EXPECT_EQ(sink->GetIDsOfNames(IID_NULL, names, 1, 0, &id), S_OK);
+    EXPECT_EQ(id, kFolderChanged);
+    names[0] = unknown;
+    EXPECT_EQ(sink->GetIDsOfNames(IID_NULL, names, 1, 0, &id), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(id, DISPID_UNKNOWN);
+}
+
+TEST(HostEventSinks, QueryInterface_AnswersTheAdvisedEventInterfaceOnly) {
+    HostEventRig rig;
+    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
+    constexpr IID kEvents = {0x1234, 0x5678, 0x9abc, {1, 2, 3, 4, 5, 6, 7, 8}};
+    ComPtr<IUnknown> answer;
+    EXPECT_EQ(sink->QueryInterface(kEvents, &answer), E_NOINTERFACE);
+    sink->SetEventIid(kEvents);
+    EXPECT_EQ(sink->QueryInterface(kEvents, &answer), S_OK);
+    EXPECT_EQ(sink->QueryInterface(IID_IDispatch, &answer), S_OK);
+    EXPECT_EQ(sink->QueryInterface(IID_IConnectionPoint, &answer), E_NOINTERFACE);
+}
+
+TEST(HostEventSinks, LastRelease_DeletesTheSink) {
+    HostEventRig rig;
+    const long before = CDispatchSink::LiveSinks();
+    auto sink = MakeSink<CHelpBtnEventSink>(rig.relay, rig.log);
+    ComPtr<IDispatch> hostReference = sink;
+    EXPECT_EQ(CDispatchSink::LiveSinks(), before + 1);
+    sink.Reset();
+    EXPECT_EQ(CDispatchSink::LiveSinks(), before + 1);
+    hostReference.Reset();
+    EXPECT_EQ(CDispatchSink::LiveSinks(), before);
+}
+
+}  // namespace
+}  // namespace Orva::Plugin
