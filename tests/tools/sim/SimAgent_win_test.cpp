@@ -11,6 +11,7 @@
 
 #include "common_src/platform/Path.h"
 #include "support/FileBytes.h"
+#include "support/MessagePump_win.h"
 #include "support/TempFolder.h"
 #include "tools/sim/agent/SimAgentProtocol.h"
 
@@ -79,15 +80,6 @@ private:
 std::wstring UniqueTitle() {
     return L"OrvaSimAgentTest-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
            std::to_wstring(GetTickCount());
-}
-
-LRESULT SendCommand(HWND agent, const AgentCommand& command) {
-    std::vector<uint8_t> bytes = EncodeCommand(command);
-    COPYDATASTRUCT data{};
-    data.dwData = kCommandCopyDataId;
-    data.cbData = static_cast<DWORD>(bytes.size());
-    data.lpData = bytes.data();
-    return SendMessageW(agent, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data));
 }
 
 TEST(SimulatedAgent, RecordsWhatItReceivesAndStopsOn1069) {
@@ -169,21 +161,21 @@ TEST(SimulatedAgent, DeliversCommandedMessagesToTheController) {
 
     AgentCommand ready;
     ready.message = 1075;
-    EXPECT_EQ(SendCommand(window, ready), 1);
+    EXPECT_EQ(Testing::SendAgentCommand(window, ready), 1);
     PumpUntil(1);
 
     AgentCommand hook;
     hook.delivery = Delivery::Send;
     hook.message = 1058;
     hook.wParam = 0x1234;
-    EXPECT_EQ(SendCommand(window, hook), 1);
+    EXPECT_EQ(Testing::SendAgentCommand(window, hook), 1);
 
     AgentCommand deleteAll;
     deleteAll.delivery = Delivery::CopyData;
     deleteAll.copyDataId = 1078;
     deleteAll.payload.assign(17, 0);
     deleteAll.payload[16] = 1;
-    EXPECT_EQ(SendCommand(window, deleteAll), 1);
+    EXPECT_EQ(Testing::SendAgentCommand(window, deleteAll), 1);
 
     ASSERT_EQ(Received().size(), 3u);
     EXPECT_EQ(Received()[0].message, 1075u);
