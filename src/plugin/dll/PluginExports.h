@@ -6,9 +6,10 @@
 #include <windows.h>
 
 extern "C" {
-// Only announces itself on the debugger output and returns TRUE: the real start-up has already
-// run when the library was loaded.
+// Announces itself on the debugger output and returns TRUE. The add-in's start-up runs before,
+// once, at the first call into the library after it was loaded.
 BOOL InitializePlugin();
-// Hands the add-in the mail client's main window once the host knows it.
+// Hands the add-in the mail client's main window once the host knows it; nothing when the
+// controller window could not be created or is already closed.
 void SetWLMBrowserWnd(HWND browserWindow);
 }

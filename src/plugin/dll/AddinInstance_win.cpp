@@ -1,0 +1,90 @@
+#include "plugin/dll/AddinInstance_win.h"
+
+#include <exception>
+#include <memory>
+
+#include "common_src/ZelCommon/ProfileApi.h"
+#include "common_src/ZelCommon/RegistryApi.h"
+#include "common_src/platform/Clock.h"
+#include "common_src/platform/ProcessContext.h"
+#include "common_src/platform/ProcessLauncher.h"
+#include "common_src/platform/WindowMessaging.h"
+#include "plugin/ORVA_WLMAApp.h"
+#include "plugin/dll/SystemController_win.h"
+#include "settings/DebugLog.h"
+#include "settings/StringLoaderServices.h"
+
+namespace Orva::Plugin {
+namespace {
+
+HINSTANCE g_module = nullptr;
+
+std::unique_ptr<CORVA_WLMAApp>& TheApp() {
+    static std::unique_ptr<CORVA_WLMAApp> app;
+    return app;
+}
+
+std::unique_ptr<CORVA_WLMAApp> MakeApp() {
+    using namespace ZelCommon::Platform;
+    return std::make_unique<CORVA_WLMAApp>(
+        ApplicationPorts{SystemProcessContext(), SystemDebuggerOutput(), SystemWindowMessaging(),
+                         SystemClock(), SystemProcessLauncher(),
+                         ZelCommon::Storage::SystemRegistryApi(),
+                         ZelCommon::Storage::SystemProfileApi(), ZelCommon::Library::TheLog(),
+                         Orva::Settings::SystemStringLoaderServices()},
+        [](const ApplicationContext& context) {
+            return CreateSystemController(g_module, context);
+        });
+}
+
+void LogFailure(const char* step, const char* what) {
+    ZelCommon::Library::TheLog().LogText(L"xxx ORVA_WLMA %S failed: %S", step, what);
+}
+
+}  // namespace
+
+void RememberAddinModule(HINSTANCE module) {
+    g_module = module;
+}
+
+void StartAddin() {
+    try {
+        if (!TheApp()) {
+            TheApp() = MakeApp();
+        }
+        TheApp()->InitInstance();
+    } catch (const std::exception& error) {
+        LogFailure("start-up", error.what());
+    } catch (...) {
+        LogFailure("start-up", "unknown exception");
+    }
+}
+
+void HandOverMailClientWindow(HWND window) {
+    try {
+        if (TheApp()) {
+            TheApp()->SetWLMBrowserWnd(reinterpret_cast<ZelCommon::Platform::WindowHandle>(window));
+        }
+    } catch (...) {
+        LogFailure("SetWLMBrowserWnd", "exception");
+    }
+}
+
+void StopAddin() {
+    try {
+        if (TheApp()) {
+            TheApp()->ExitInstance();
+            TheApp().reset();
+        }
+    } catch (...) {
+        LogFailure("exit", "exception");
+    }
+}
+
+void AbandonAddin() {
+    // Deliberately left to the ending process: running its destructors now could touch
+    // windows, COM and libraries that are already gone.
+    static_cast<void>(TheApp().release());
+}
+
+}  // namespace Orva::Plugin

@@ -1,0 +1,23 @@
+#include <windows.h>
+
+#include "plugin/dll/AddinInstance_win.h"
+
+// Runs under the loader lock: only bookkeeping here (see AddinInstance_win.h).
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID reserved) {
+    switch (reason) {
+        case DLL_PROCESS_ATTACH:
+            Orva::Plugin::RememberAddinModule(module);
+            ::DisableThreadLibraryCalls(module);
+            break;
+        case DLL_PROCESS_DETACH:
+            if (reserved == nullptr) {
+                Orva::Plugin::StopAddin();
+            } else {
+                Orva::Plugin::AbandonAddin();
+            }
+            break;
+        default:
+            break;
+    }
+    return TRUE;
+}
