@@ -40,6 +40,7 @@ public:
     bool enumerates = true;
     bool providesClassInfo = false;
     HRESULT unadviseResult = S_OK;
+    ComPtr<ITypeInfo> classInfo;
 
     std::vector<std::wstring> calls;
     ComPtr<IDispatch> sink;
@@ -147,8 +148,12 @@ public:
     }
 
     STDMETHODIMP GetClassInfo(ITypeInfo** info) override {
-        *info = nullptr;
-        return E_NOTIMPL;
+        *info = classInfo.Get();
+        if (classInfo == nullptr) {
+            return E_NOTIMPL;
+        }
+        classInfo->AddRef();
+        return S_OK;
     }
     STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override {
         if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID) {
@@ -162,6 +167,47 @@ private:
     ULONG m_position = 0;
 };
 #pragma GCC diagnostic pop
+
+// A class whose default source interface numbers the folder event 33, as a host's type
+// library might.
+ComPtr<ITypeInfo> ClassWithRenumberedFolderEvent() {
+    ComPtr<ICreateTypeLib2> library;
+    ComPtr<ICreateTypeInfo> events;
+    ComPtr<ICreateTypeInfo> coclass;
+    if (FAILED(::CreateTypeLib2(SYS_WIN64, L"OrvaHostTest.tlb", &library)) ||
+        FAILED(library->CreateTypeInfo(const_cast<wchar_t*>(L"HostEvents"), TKIND_DISPATCH,
+                                       &events)) ||
+        FAILED(library->CreateTypeInfo(const_cast<wchar_t*>(L"Host"), TKIND_COCLASS, &coclass))) {
+        return nullptr;
+    }
+    events->SetGuid(kEventIid);
+    ELEMDESC folderId{};
+    folderId.tdesc.vt = VT_I8;
+    FUNCDESC folderEvent{};
+    folderEvent.memid = 33;
+    folderEvent.funckind = FUNC_DISPATCH;
+    folderEvent.invkind = INVOKE_FUNC;
+    folderEvent.callconv = CC_STDCALL;
+    folderEvent.cParams = 1;
+    folderEvent.lprgelemdescParam = &folderId;
+    folderEvent.elemdescFunc.tdesc.vt = VT_VOID;
+    wchar_t eventName[] = L"OnFolderSelectionChanged";
+    wchar_t parameterName[] = L"folderId";
+    LPOLESTR names[] = {eventName, parameterName};
+    ComPtr<ITypeInfo> eventsInfo;
+    ComPtr<ITypeInfo> classInfo;
+    HREFTYPE reference = 0;
+    if (FAILED(events->AddFuncDesc(0, &folderEvent)) ||
+        FAILED(events->SetFuncAndParamNames(0, names, 2)) || FAILED(events->LayOut()) ||
+        FAILED(events.As(&eventsInfo)) ||
+        FAILED(coclass->AddRefTypeInfo(eventsInfo.Get(), &reference)) ||
+        FAILED(coclass->AddImplType(0, reference)) ||
+        FAILED(coclass->SetImplTypeFlags(0, IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE)) ||
+        FAILED(coclass->LayOut()) || FAILED(coclass.As(&classInfo))) {
+        return nullptr;
+    }
+    return classInfo;
+}
 
 // The adapter over the fake host object, with the ProgIDs it was asked for.
 struct HostObjectsRig {
@@ -240,6 +286,19 @@ TEST(HostObjects, EventInterface_ComesFromClassInfoWhenPointsCannotBeListed) {
     ASSERT_TRUE(rig.host->AdviseApiSink());
     EXPECT_EQ(rig.object.Fire(1, {Int32Arg(7), Int32Arg(8)}), S_OK);
     EXPECT_THAT(rig.events.Messages(), ElementsAre(ControllerMessageRecord{4031, 7, 8}));
+}
+
+TEST(HostObjects, HostTypeLibrary_RenumbersTheEventsItNames) {
+    HostObjectsRig rig;
+    rig.object.providesClassInfo = true;
+    rig.object.classInfo = ClassWithRenumberedFolderEvent();
+    ASSERT_NE(rig.object.classInfo, nullptr);
+    ASSERT_TRUE(rig.host->CreateApiObject());
+    ASSERT_TRUE(rig.host->AdviseApiSink());
+
+    EXPECT_EQ(rig.object.Fire(3, {Int64Arg(5)}), S_OK);
+    EXPECT_EQ(rig.object.Fire(33, {Int64Arg(6)}), S_OK);
+    EXPECT_THAT(rig.events.Messages(), ElementsAre(ControllerMessageRecord{1076, 0, 6}));
 }
 
 TEST(HostObjects, EventInterfaceUnknown_AdviseFails) {
