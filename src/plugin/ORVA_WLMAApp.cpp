@@ -49,8 +49,6 @@ void CORVA_WLMAApp::ExitInstance() {
     if (m_controller && m_controller->Exists()) {
         m_controller->Close();
     }
-    m_controller.reset();
-    m_mui.reset();
 }
 
 void CORVA_WLMAApp::SetWLMBrowserWnd(ZelCommon::Platform::WindowHandle window) {

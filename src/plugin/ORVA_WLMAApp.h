@@ -27,7 +27,7 @@ public:
     virtual ~IControllerHandle() = default;
     // False once the window has been destroyed (its WM_CLOSE ran).
     virtual bool Exists() const = 0;
-    // Sends the window WM_CLOSE, as the application's exit does.
+    // Closes the window at the add-in's exit.
     virtual void Close() = 0;
     // The mail client's main window, handed in by SetWLMBrowserWnd.
     virtual void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) = 0;
@@ -69,6 +69,7 @@ public:
 
     // Runs once; later calls do nothing.
     void InitInstance();
+    // Closes a controller that still exists; what the application holds is released with it.
     void ExitInstance();
     void SetWLMBrowserWnd(ZelCommon::Platform::WindowHandle window);
 

@@ -69,6 +69,13 @@ CToolBarWnd::~CToolBarWnd() {
     }
 }
 
+void CToolBarWnd::ReleaseAtUnload(HINSTANCE module) {
+    if (g_live != nullptr) {
+        g_live->RestoreHookedMainWindow();
+    }
+    ::UnregisterClassW(ClassName().c_str(), module);
+}
+
 // The hook procedure lives in this module: once the controller is gone, the mail client's
 // window must not call into it any more.
 void CToolBarWnd::RestoreHookedMainWindow() {
@@ -77,7 +84,9 @@ void CToolBarWnd::RestoreHookedMainWindow() {
     }
     const auto saved = m_controller->SavedProcedure();
     const auto hooked = reinterpret_cast<HWND>(m_controller->HookedWindow());
-    if (saved != 0 && ::IsWindow(hooked)) {
+    if (saved != 0 && ::IsWindow(hooked) &&
+        ::GetWindowLongPtrW(hooked, GWLP_WNDPROC) ==
+            static_cast<LONG_PTR>(MainWindowHookProcedure())) {
         ::SetWindowLongPtrW(hooked, GWLP_WNDPROC, static_cast<LONG_PTR>(saved));
     }
 }
@@ -163,7 +172,7 @@ bool CToolBarWnd::KillTimer(uintptr_t id) {
     return m_calls && m_calls->KillTimer(id);
 }
 
-void CToolBarWnd::Close() {
+void CToolBarWnd::SendClose() {
     // A close from another thread would wait on this one: only the window's own thread may.
     if (m_window != nullptr &&
         ::GetWindowThreadProcessId(m_window, nullptr) == ::GetCurrentThreadId()) {

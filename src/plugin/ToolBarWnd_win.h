@@ -6,7 +6,6 @@
 #include <memory>
 
 #include "plugin/ControllerWindow.h"
-#include "plugin/ORVA_WLMAApp.h"
 #include "plugin/ToolBarController.h"
 #include "settings/DebugLog.h"
 
@@ -15,7 +14,7 @@ namespace Orva::Plugin {
 // The hidden controller window: a top-most popup of the class by which everyone finds the
 // controller. Its procedure hands every message to CToolBarController; no exception leaves it.
 // One lives in a process at a time, and it must be used on the thread that created it.
-class CToolBarWnd final : public IControllerWindow, public IControllerHandle {
+class CToolBarWnd final : public IControllerWindow {
     // Only Create makes one.
     struct Key {
         explicit Key() = default;
@@ -38,6 +37,9 @@ public:
     // The procedure that subclasses the mail client's main window; it reaches the live
     // controller, or the default procedure when none lives.
     static ZelCommon::Platform::WindowProcedure MainWindowHookProcedure();
+    // At unload: gives a still subclassed main window its procedure back and unregisters the
+    // class, so that nothing points into the library once it is gone.
+    static void ReleaseAtUnload(HINSTANCE module);
 
     HWND Handle() const { return m_window; }
     CToolBarController& Controller() { return *m_controller; }
@@ -46,9 +48,10 @@ public:
     bool SetTimer(uintptr_t id, uint32_t milliseconds) override;
     bool KillTimer(uintptr_t id) override;
 
-    bool Exists() const override { return m_window != nullptr; }
-    void Close() override;
-    void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) override;
+    bool Exists() const { return m_window != nullptr; }
+    // Sends WM_CLOSE, from the window's own thread only.
+    void SendClose();
+    void SetMailClientWindow(ZelCommon::Platform::WindowHandle window);
 
 private:
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam,

@@ -130,8 +130,26 @@ TEST_F(AddinInWine, FirstCall_StartsTheAgentFromTheAddinFolderAndTheControllerOn
     ShutDownController();
     EXPECT_FALSE(::IsWindow(controller));
     EXPECT_TRUE(LogShows("CToolBarWnd::OnClose() wait for on shutdown success"));
-    // Only the first call launched an agent.
-    EXPECT_EQ(LogText().find("Failed to create ORVA_WLM.exe"), std::string::npos);
+
+    // Classes are kept by module handle: the value is enough to ask after the unload.
+    const HMODULE loadedAt = addin.get();
+    addin.reset();
+    WNDCLASSW registered{};
+    EXPECT_FALSE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
+}
+
+TEST_F(AddinInWine, UnloadWithoutTheHostsShutdown_LeavesNoWindowBehind) {
+    ASSERT_NE(addin, nullptr) << ::GetLastError();
+    ASSERT_EQ(InitializePlugin(), TRUE);
+    ASSERT_NE(Controller(), nullptr);
+    const HMODULE loadedAt = addin.get();
+    WNDCLASSW registered{};
+    ASSERT_TRUE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
+
+    addin.reset();
+
+    EXPECT_EQ(Controller(), nullptr);
+    EXPECT_FALSE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
 }
 
 TEST_F(AddinInWine, CopyDataFromTheAgent_OnlyAWholeFlaggedRecordAsksToDeleteAllSpam) {

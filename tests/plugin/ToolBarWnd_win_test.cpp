@@ -132,7 +132,7 @@ TEST(ToolBarWndWin, Close_RunsTheControllersCloseAndDestroysTheWindow) {
     auto wnd = rig.Open();
     ASSERT_NE(wnd, nullptr);
 
-    wnd->Close();
+    wnd->SendClose();
 
     EXPECT_FALSE(wnd->Exists());
     EXPECT_EQ(::FindWindowW(kClass.c_str(), nullptr), nullptr);

@@ -10,6 +10,7 @@
 #include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "plugin/ORVA_WLMAApp.h"
+#include "plugin/ToolBarWnd_win.h"
 #include "plugin/dll/SystemController_win.h"
 #include "settings/DebugLog.h"
 #include "settings/StringLoaderServices.h"
@@ -74,16 +75,17 @@ void StopAddin() {
     try {
         if (TheApp()) {
             TheApp()->ExitInstance();
-            TheApp().reset();
         }
+        CToolBarWnd::ReleaseAtUnload(g_module);
     } catch (...) {
         LogFailure("exit", "exception");
     }
+    AbandonAddin();
 }
 
 void AbandonAddin() {
-    // Deliberately left to the ending process: running its destructors now could touch
-    // windows, COM and libraries that are already gone.
+    // Deliberately never destroyed: its destructors would free libraries and release COM
+    // objects under the loader lock.
     static_cast<void>(TheApp().release());
 }
 

@@ -13,7 +13,9 @@ void RememberAddinModule(HINSTANCE module);
 void StartAddin();
 // The host names the mail client's main window.
 void HandOverMailClientWindow(HWND window);
-// FreeLibrary: the application's exit, on the thread that unloads.
+// FreeLibrary: the application's exit, on the thread that unloads, under the loader lock.
+// The application object itself is then left to the process, since releasing what it holds
+// (language module, COM objects) is not allowed under the lock.
 void StopAddin();
 // The process is ending: the other threads are gone and other libraries may be unloaded
 // already, so nothing may be closed or released any more.

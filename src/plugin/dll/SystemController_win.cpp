@@ -50,11 +50,11 @@ public:
     }
 
     bool Exists() const override { return m_window && m_window->Exists(); }
-    void Close() override {
-        if (m_window) {
-            m_window->Close();
-        }
-    }
+    // The exit runs at unload, under the loader lock, where the controller's own close (a wait
+    // for the host and COM calls) must not run: the window goes, with its class and the hook on
+    // the mail client's window, so nothing calls into the unloaded image; the host's objects are
+    // left to the process.
+    void Close() override { m_window.reset(); }
     void SetMailClientWindow(WindowHandle window) override {
         if (m_window) {
             m_window->SetMailClientWindow(window);
