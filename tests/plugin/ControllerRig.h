@@ -13,6 +13,7 @@
 #include "common_src/fakes/FakeProfileApi.h"
 #include "common_src/fakes/FakeSystemPorts.h"
 #include "common_src/fakes/FakeWindowMessaging.h"
+#include "common_src/fakes/JournalDebuggerOutput.h"
 #include "plugin/AgentLink.h"
 #include "plugin/AgentProtocol.h"
 #include "plugin/ControllerProtocol.h"
@@ -24,22 +25,8 @@
 
 namespace Orva::Testing {
 
-// Puts each debug-log line into the journal as "log <text>", without its head and line end.
-class JournalDebuggerOutput final : public ZelCommon::Platform::IDebuggerOutput {
-public:
-    explicit JournalDebuggerOutput(ZelCommon::Fakes::FakeJournal& journal) : m_journal(journal) {}
-    void Write(const std::wstring& text) override {
-        // The head "pppp:tttt yyyy/mm/dd hh:mm:ss:mmm " is 34 characters.
-        std::wstring line = text.size() >= 34 ? text.substr(34) : text;
-        if (!line.empty() && line.back() == L'\n') {
-            line.pop_back();
-        }
-        m_journal.Add(L"log " + line);
-    }
-
-private:
-    ZelCommon::Fakes::FakeJournal& m_journal;
-};
+using ZelCommon::Fakes::JournalDebuggerOutput;
+using ZelCommon::Fakes::JournalPlainDebugger;
 
 class FakeOsInfo final : public Orva::Settings::IOsInfo {
 public:
@@ -52,16 +39,6 @@ public:
     int32_t ServerR2Metric() override { return 0; }
 
     uint32_t majorVersion = 6;
-};
-
-// Plain debugger lines (not the log's) as "debugger <text>".
-class JournalPlainDebugger final : public ZelCommon::Platform::IDebuggerOutput {
-public:
-    explicit JournalPlainDebugger(ZelCommon::Fakes::FakeJournal& journal) : m_journal(journal) {}
-    void Write(const std::wstring& text) override { m_journal.Add(L"debugger " + text); }
-
-private:
-    ZelCommon::Fakes::FakeJournal& m_journal;
 };
 
 inline std::wstring LogEntry(const std::wstring& text) {
