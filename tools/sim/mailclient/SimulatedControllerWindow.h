@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "ScriptedOsInfo.h"
+#include "SimulatedMessageLoop.h"
+#include "SimulatedProcess.h"
+#include "common_src/fakes/FakePluginPorts.h"
+#include "common_src/fakes/FakeSystemPorts.h"
+#include "plugin/ORVA_WLMAApp.h"
+#include "plugin/ToolBarController.h"
+
+namespace Orva::Sim {
+
+// The controller window in the simulated process: a window of the controller's class and title
+// that hands every message to the real CToolBarController, which works on recording fakes of
+// the host and of the add-in's parts. Messages arrive as Windows delivers them: a send runs at
+// once, a post waits in the message loop. Created with WM_CREATE; WM_CLOSE destroys it.
+class SimulatedControllerWindow final : public Orva::Plugin::IControllerHandle {
+public:
+    SimulatedControllerWindow(SimulatedProcess& process, SimulatedMessageLoop& loop,
+                              const Orva::Plugin::ApplicationContext& context);
+    ~SimulatedControllerWindow() override;
+    SimulatedControllerWindow(const SimulatedControllerWindow&) = delete;
+    SimulatedControllerWindow& operator=(const SimulatedControllerWindow&) = delete;
+
+    bool Exists() const override;
+    void Close() override;
+    void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) override;
+
+    // WM_COPYDATA from another process: always sent, with its record.
+    intptr_t SendCopyData(uintptr_t copyDataId, std::span<const std::byte> record);
+    // A second goes by: each running timer of the window fires once.
+    void LetTimersFire();
+
+    ZelCommon::Platform::WindowHandle Handle() const { return m_window; }
+    const Orva::Plugin::CToolBarController& Controller() const { return m_controller; }
+    bool HasClassicBand() const { return m_classic.IsBuilt(); }
+
+private:
+    intptr_t OnMessage(const ZelCommon::Fakes::FakeWindowMessaging::Message& message);
+    intptr_t WindowProcedure(const Orva::Plugin::ControllerMessageData& data);
+    void Destroy();
+
+    SimulatedProcess& m_process;
+    SimulatedMessageLoop& m_loop;
+    ZelCommon::Fakes::FakeHostObjects m_host;
+    ZelCommon::Fakes::FakeRibbonCommands m_ribbon;
+    ZelCommon::Fakes::FakeClassicBand m_classic;
+    ZelCommon::Fakes::FakeSpamFolder m_spamFolder;
+    ZelCommon::Fakes::FakeAccountCheck m_account;
+    ZelCommon::Fakes::FakeCommandDialogs m_dialogs;
+    ZelCommon::Fakes::FakeLocalisedStrings m_strings;
+    ZelCommon::Fakes::FakeControllerWindow m_calls;
+    ZelCommon::Fakes::FakeEvent m_shutdownDone;
+    ZelCommon::Fakes::FakeWindowProcedureHook m_hook;
+    ZelCommon::Fakes::FakeShellOpen m_shell;
+    ZelCommon::Fakes::FakeKeyboard m_keyboard;
+    ScriptedOsInfo m_os;
+    Orva::Plugin::CToolBarController m_controller;
+    ZelCommon::Platform::WindowHandle m_window = 0;
+    std::shared_ptr<int> m_lifetime = std::make_shared<int>(0);
+};
+
+}  // namespace Orva::Sim

@@ -1,0 +1,170 @@
+#include "SimulatedMailClient.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <span>
+
+#include "common_src/platform/WideFormat.h"
+#include "plugin/AgentProtocol.h"
+#include "plugin/ControllerProtocol.h"
+
+namespace Orva::Sim {
+
+using namespace Orva::Plugin;
+
+namespace {
+
+void PutLittleEndian(std::span<std::byte> out, uint64_t value) {
+    for (std::byte& byte : out) {
+        byte = static_cast<std::byte>(value & 0xFFu);
+        value >>= 8;
+    }
+}
+
+}  // namespace
+
+SimulatedMailClient::SimulatedMailClient(int mailClientVersion)
+    : m_process(mailClientVersion),
+      m_relay(m_process.messaging, m_process.log),
+      m_bandAgentLink(m_process.messaging, m_process.clock, m_process.launcher, m_process.log,
+                      m_process.AddinFolder()) {
+    m_process.profile.SetJournal(&m_process.journal);
+    m_app = std::make_unique<CORVA_WLMAApp>(
+        ApplicationPorts{m_process.process, m_process.debugger, m_process.messaging,
+                         m_process.clock, m_process.launcher, m_process.registry, m_process.profile,
+                         m_process.log, m_process.StringServices()},
+        [this](const ApplicationContext& context) -> std::unique_ptr<IControllerHandle> {
+            auto window = std::make_unique<SimulatedControllerWindow>(m_process, m_loop, context);
+            m_controllerWindow = window.get();
+            return window;
+        });
+}
+
+SimulatedMailClient::~SimulatedMailClient() {
+    // As the unloading of the add-in would: the application object closes what still lives.
+    try {
+        m_app->ExitInstance();
+    } catch (...) {
+        // Nothing is left to report to at this point.
+    }
+}
+
+void SimulatedMailClient::LoadAddin() {
+    m_app->InitInstance();
+    // What the export itself does once the start-up ran.
+    m_process.debugger.Write(L"ORVA InitializePlugin()");
+    Settle();
+}
+
+void SimulatedMailClient::HostReady() {
+    m_relay.OnReady();
+    Settle();
+}
+
+void SimulatedMailClient::AgentReportsRunning() {
+    m_process.messaging.Post(m_process.messaging.FindByClass(std::wstring(kControllerClassName)),
+                             ControllerMessage::AgentReady, 0, 0);
+    Settle();
+}
+
+void SimulatedMailClient::SelectFolder(uint64_t folderId) {
+    m_relay.OnFolderSelectionChanged(folderId);
+    Settle();
+}
+
+void SimulatedMailClient::ClickReportSpam() {
+    const auto* controller = Controller();
+    ClickReportButton(controller != nullptr ? controller->Ribbon().reportSpam : 0,
+                      AgentMessage::ReportSpam);
+}
+
+void SimulatedMailClient::ClickNotSpam() {
+    const auto* controller = Controller();
+    ClickReportButton(controller != nullptr ? controller->Ribbon().notSpam : 0,
+                      AgentMessage::ReportNotSpam);
+}
+
+void SimulatedMailClient::ClickReportButton(int32_t ribbonButton, uint32_t agentMessage) {
+    const auto* controller = Controller();
+    if (controller != nullptr && controller->Ribbon().group != 0) {
+        m_relay.OnToolbarButtonClicked(controller->Ribbon().group, ribbonButton);
+    } else if (m_controllerWindow != nullptr && m_controllerWindow->HasClassicBand()) {
+        m_process.journal.Add(
+            ZelCommon::Text::Format(L"classic band button clicked, command %u", agentMessage));
+        m_bandAgentLink.SendButtonCommand(agentMessage);
+    } else {
+        m_process.journal.Add(L"no toolbar: there is no button to click");
+    }
+    Settle();
+}
+
+void SimulatedMailClient::AgentDeletesAllSpam(uint64_t folderId, uint64_t messageId,
+                                              bool allMarked) {
+    std::array<std::byte, kDeleteAllSpamPayloadSize> record{};
+    PutLittleEndian(std::span(record).subspan(0, 8), folderId);
+    PutLittleEndian(std::span(record).subspan(8, 8), messageId);
+    record[16] = allMarked ? std::byte{1} : std::byte{0};
+    if (m_controllerWindow != nullptr) {
+        m_controllerWindow->SendCopyData(kDeleteAllSpamCopyDataId, record);
+    }
+    Settle();
+}
+
+void SimulatedMailClient::SuiteWindowAppears() {
+    if (m_suiteWindow == 0) {
+        m_suiteWindow = m_process.OpenWindow(std::wstring(kSuiteWindowTitle));
+    }
+}
+
+void SimulatedMailClient::SuiteWindowGoes() {
+    if (m_suiteWindow != 0) {
+        m_process.CloseWindow(m_suiteWindow);
+        m_suiteWindow = 0;
+    }
+}
+
+void SimulatedMailClient::ClickDropDownEntry(int32_t entry) {
+    const auto* controller = Controller();
+    if (controller != nullptr && controller->Ribbon().group != 0) {
+        m_relay.OnSubButtonClicked(entry);
+    } else if (m_controllerWindow != nullptr && m_controllerWindow->HasClassicBand()) {
+        m_process.journal.Add(L"classic band: its drop-down is not simulated");
+    } else {
+        m_process.journal.Add(L"no toolbar: there is no drop-down to open");
+    }
+    Settle();
+}
+
+void SimulatedMailClient::ShutDown() {
+    m_relay.OnShutdown();
+    Settle();
+    m_app->ExitInstance();
+    m_controllerWindow = nullptr;
+}
+
+std::vector<std::wstring> SimulatedMailClient::TakeNewEntries() {
+    const std::vector<std::wstring> all = m_process.journal.Entries();
+    const auto first =
+        all.begin() + static_cast<std::ptrdiff_t>(std::min(m_entriesTaken, all.size()));
+    m_entriesTaken = all.size();
+    return {first, all.end()};
+}
+
+bool SimulatedMailClient::ControllerExists() const {
+    return m_controllerWindow != nullptr && m_controllerWindow->Exists();
+}
+
+const CToolBarController* SimulatedMailClient::Controller() const {
+    return m_controllerWindow != nullptr ? &m_controllerWindow->Controller() : nullptr;
+}
+
+void SimulatedMailClient::Settle() {
+    m_loop.RunPending();
+    if (m_controllerWindow != nullptr) {
+        m_controllerWindow->LetTimersFire();
+        m_loop.RunPending();
+    }
+}
+
+}  // namespace Orva::Sim

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "JournalingProfileApi.h"
+#include "ScratchFolder.h"
+#include "common_src/ZelCommon/MemoryRegistry.h"
+#include "common_src/fakes/FakeClock.h"
+#include "common_src/fakes/FakeJournal.h"
+#include "common_src/fakes/FakeLocale.h"
+#include "common_src/fakes/FakePluginPorts.h"
+#include "common_src/fakes/FakeProcessContext.h"
+#include "common_src/fakes/FakeSystemPorts.h"
+#include "common_src/fakes/FakeWindowMessaging.h"
+#include "common_src/fakes/JournalDebuggerOutput.h"
+#include "common_src/platform/WindowMessaging.h"
+#include "settings/DebugLog.h"
+#include "settings/StringLoaderServices.h"
+
+namespace Orva::Sim {
+
+// The mail client's process as the add-in sees it: its folders in a scratch folder, the
+// profile engine on real files there, a registry and a locale in memory, and windows,
+// processes and time simulated. Everything observable goes into one journal, in order.
+class SimulatedProcess {
+public:
+    explicit SimulatedProcess(int mailClientVersion);
+    SimulatedProcess(const SimulatedProcess&) = delete;
+    SimulatedProcess& operator=(const SimulatedProcess&) = delete;
+
+    Orva::Settings::StringLoaderServices StringServices();
+
+    const std::wstring& AddinFolder() const { return m_addinFolder; }
+    ZelCommon::Platform::WindowHandle MainWindow() const { return m_mainWindow; }
+    ZelCommon::Platform::WindowHandle AgentWindow();
+
+    // A top-level window titled `title` appears or goes, as another program would make it.
+    ZelCommon::Platform::WindowHandle OpenWindow(const std::wstring& title);
+    void CloseWindow(ZelCommon::Platform::WindowHandle window);
+
+    ScratchFolder scratch;
+    ZelCommon::Fakes::FakeJournal journal;
+    ZelCommon::Fakes::FakeClock clock;
+    ZelCommon::Fakes::FakeProcessContext process;
+    ZelCommon::Fakes::JournalDebuggerOutput logOutput{journal};
+    ZelCommon::Fakes::JournalPlainDebugger debugger{journal};
+    ZelCommon::Library::DebugLog log{clock, process, logOutput};
+    ZelCommon::Fakes::FakeWindowMessaging messaging;
+    ZelCommon::Fakes::FakeProcessLauncher launcher;
+    ZelCommon::Storage::MemoryRegistry registry;
+    ZelCommon::Fakes::FakeLocale locale;
+    JournalingProfileApi profile;
+    ZelCommon::Fakes::FakeMailClientVersion version;
+
+private:
+    void StartAgent();
+
+    std::wstring m_addinFolder;
+    ZelCommon::Platform::WindowHandle m_mainWindow = 0;
+    std::map<ZelCommon::Platform::WindowHandle, std::wstring> m_titles;
+};
+
+}  // namespace Orva::Sim
