@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cwchar>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -12,6 +13,7 @@
 #include "common_src/platform/TextCodec.h"
 #include "plugin/AgentProtocol.h"
 #include "plugin/ControllerProtocol.h"
+#include "plugin/FakeHostObject_win.h"
 #include "support/FileBytes.h"
 #include "support/MessagePump_win.h"
 #include "support/TempFolder.h"
@@ -142,6 +144,8 @@ TEST_F(AddinInWine, UnloadWithoutTheHostsShutdown_LeavesNoWindowBehind) {
     ASSERT_NE(addin, nullptr) << ::GetLastError();
     ASSERT_EQ(InitializePlugin(), TRUE);
     ASSERT_NE(Controller(), nullptr);
+    // An agent still starting when the test ends would outlive its clean-up.
+    ASSERT_NE(Testing::WaitForWindowTitled(kAgentTitle), nullptr);
     const HMODULE loadedAt = addin.get();
     WNDCLASSW registered{};
     ASSERT_TRUE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
@@ -176,6 +180,110 @@ TEST_F(AddinInWine, CopyDataFromTheAgent_OnlyAWholeFlaggedRecordAsksToDeleteAllS
     EXPECT_TRUE(LogShows(deletion));
 
     ShutDownController();
+}
+
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+// Hands out one fake host object, as the plug-in host's class factory would.
+class FakeHostFactory final : public IClassFactory {
+public:
+    explicit FakeHostFactory(Testing::FakeHostObject& object) : m_object(object) {}
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (iid != IID_IUnknown && iid != IID_IClassFactory) {
+            *object = nullptr;
+            return E_NOINTERFACE;
+        }
+        *object = static_cast<IClassFactory*>(this);
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
+    STDMETHODIMP_(ULONG) Release() override { return --m_references; }
+    STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
+        *object = nullptr;
+        if (outer != nullptr) {
+            return CLASS_E_NOAGGREGATION;
+        }
+        return static_cast<IConnectionPointContainer&>(m_object).QueryInterface(iid, object);
+    }
+    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
+
+private:
+    Testing::FakeHostObject& m_object;
+    ULONG m_references = 0;
+};
+#pragma GCC diagnostic pop
+
+// One host object registered in this process under its ProgID, as the plug-in host registers
+// its classes, for as long as the registration lives.
+class RegisteredHostClass {
+public:
+    RegisteredHostClass(const wchar_t* progId, const CLSID& classId) : m_progId(progId) {
+        wchar_t text[40] = {};
+        ::StringFromGUID2(classId, text, 40);
+        // Wine's ProgID lookup reads the machine's classes only, not the user's overlay.
+        const std::wstring key = m_progId + L"\\CLSID";
+        ::RegSetKeyValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, REG_SZ, text,
+                          static_cast<DWORD>((std::wcslen(text) + 1) * sizeof(wchar_t)));
+        ::CoRegisterClassObject(classId, &m_factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
+                                &m_cookie);
+    }
+    ~RegisteredHostClass() {
+        ::CoRevokeClassObject(m_cookie);
+        ::RegDeleteTreeW(HKEY_CLASSES_ROOT, m_progId.c_str());
+    }
+    RegisteredHostClass(const RegisteredHostClass&) = delete;
+    RegisteredHostClass& operator=(const RegisteredHostClass&) = delete;
+
+    Testing::FakeHostObject object;
+
+private:
+    std::wstring m_progId;
+    FakeHostFactory m_factory{object};
+    DWORD m_cookie = 0;
+};
+
+constexpr CLSID kInitClass = {
+    0x3f0b5a61, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x41}};
+constexpr CLSID kApiClass = {
+    0x3f0b5a62, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x42}};
+
+// The host's events, fired through the host's own objects, drive the loaded add-in from the
+// ready event to the shut-down, with the real agent at the other end.
+TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
+    ASSERT_NE(addin, nullptr) << ::GetLastError();
+    ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
+    {
+        RegisteredHostClass init(L"NktWLMailApiInit.WLMailApiInit", kInitClass);
+        RegisteredHostClass api(L"NktWLMailApi.WLMailApi", kApiClass);
+
+        ASSERT_EQ(InitializePlugin(), TRUE);
+        ASSERT_NE(init.object.sink, nullptr) << "the init sink was not advised";
+        ASSERT_NE(Testing::WaitForWindowTitled(kAgentTitle), nullptr);
+
+        EXPECT_EQ(init.object.Fire(1, {}), S_OK);  // ready
+        ASSERT_NE(api.object.sink, nullptr) << "the API sink was not advised";
+        EXPECT_TRUE(LogShows("@@@ Creating NktWLMailApi::WLMailApi !"));
+
+        EXPECT_EQ(api.object.Fire(3, {Testing::Int64Arg(0x100000002)}), S_OK);
+        EXPECT_TRUE(
+            LogShows("@@@ CWLMAApiEventSink::OnFolderSelectionChanged folderId=[0x100000002]"));
+
+        EXPECT_EQ(init.object.Fire(2, {}), S_OK);  // shut-down
+        EXPECT_TRUE(Testing::PumpMessagesUntil([&] { return Controller() == nullptr; }));
+        EXPECT_TRUE(Testing::PumpMessagesUntil([&] {
+            return Testing::ReadFileBytes(record).find("sent 16 0 0") != std::string::npos;
+        })) << Testing::ReadFileBytes(record);
+        EXPECT_TRUE(LogShows("CToolBarWnd::OnClose() wait for on shutdown success"));
+
+        EXPECT_EQ(init.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+        EXPECT_EQ(api.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+        addin.reset();
+        EXPECT_EQ(init.object.references, 0u);
+        EXPECT_EQ(api.object.references, 0u);
+    }
+    ::CoUninitialize();
 }
 
 }  // namespace
