@@ -17,9 +17,9 @@ constexpr uint32_t kCloseMessage = 16;  // WM_CLOSE
 
 SimulatedProcess::SimulatedProcess(int mailClientVersion)
     : profile(ZelCommon::Storage::SystemProfileApi()), version(mailClientVersion) {
-    m_addinFolder = scratch.Folder(L"Addin");
+    m_addinFolder = CreatedFolder(L"Addin");
     process.SetModuleFilePath(ZelCommon::Path::ChildFile(m_addinFolder, L"ORVA_WLMA.dll"));
-    process.SetCommonAppDataFolder(scratch.Folder(L"ProgramData"));
+    process.SetCommonAppDataFolder(CreatedFolder(L"ProgramData"));
     // A quiet Sunday morning, so that the log's head and the daily log file are the same on
     // every run.
     clock.Set(ZelCommon::Fakes::FakeClock::At(2026, 11, 22, 9, 30));
@@ -34,9 +34,15 @@ SimulatedProcess::SimulatedProcess(int mailClientVersion)
     m_mainWindow = messaging.AddWindow(L"", std::wstring(Orva::Plugin::kMailClientMainClass));
 }
 
+std::wstring SimulatedProcess::CreatedFolder(const std::wstring& name) const {
+    const std::wstring folder = scratch.Folder(name);
+    ZelCommon::Path::CreateFolderWithParents(folder);
+    return folder;
+}
+
 Orva::Settings::StringLoaderServices SimulatedProcess::StringServices() {
     return Orva::Settings::StringLoaderServices{
-        profile, registry, locale, process, log, [] { return false; }, scratch.Folder(L"Install")};
+        profile, registry, locale, process, log, [] { return false; }, CreatedFolder(L"Install")};
 }
 
 WindowHandle SimulatedProcess::AgentWindow() {

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "JournalingProfileApi.h"
-#include "ScratchFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/fakes/FakeClock.h"
 #include "common_src/fakes/FakeJournal.h"
@@ -14,6 +13,7 @@
 #include "common_src/fakes/FakeSystemPorts.h"
 #include "common_src/fakes/FakeWindowMessaging.h"
 #include "common_src/fakes/JournalDebuggerOutput.h"
+#include "common_src/fakes/ScratchFolder.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "settings/DebugLog.h"
 #include "settings/StringLoaderServices.h"
@@ -39,7 +39,7 @@ public:
     ZelCommon::Platform::WindowHandle OpenWindow(const std::wstring& title);
     void CloseWindow(ZelCommon::Platform::WindowHandle window);
 
-    ScratchFolder scratch;
+    ZelCommon::Fakes::ScratchFolder scratch{"orva-mailclient"};
     ZelCommon::Fakes::FakeJournal journal;
     ZelCommon::Fakes::FakeClock clock;
     ZelCommon::Fakes::FakeProcessContext process;
@@ -55,6 +55,8 @@ public:
 
 private:
     void StartAgent();
+    // A folder of the simulated machine, created with its parents; ends with the separator.
+    std::wstring CreatedFolder(const std::wstring& name) const;
 
     std::wstring m_addinFolder;
     ZelCommon::Platform::WindowHandle m_mainWindow = 0;

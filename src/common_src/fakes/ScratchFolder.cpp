@@ -1,4 +1,4 @@
-#include "ScratchFolder.h"
+#include "common_src/fakes/ScratchFolder.h"
 
 #include <atomic>
 #include <chrono>
@@ -7,16 +7,17 @@
 
 #include "common_src/platform/Path.h"
 
-namespace Orva::Sim {
+namespace ZelCommon::Fakes {
 
-ScratchFolder::ScratchFolder() {
+ScratchFolder::ScratchFolder(std::string_view prefix) {
     static std::atomic<unsigned> counter{0};
     const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-    // Several simulations (a demo and a test program) may run side by side.
+    // Programs run side by side (test programs, a demo), so the counter alone cannot tell
+    // them apart.
     const unsigned salt = std::random_device{}();
     std::error_code error;
     m_root = std::filesystem::temp_directory_path(error) /
-             ("orva-mailclient-" + std::to_string(stamp) + "-" + std::to_string(salt) + "-" +
+             (std::string(prefix) + "-" + std::to_string(stamp) + "-" + std::to_string(salt) + "-" +
               std::to_string(++counter));
     std::filesystem::create_directories(m_root, error);
 }
@@ -27,13 +28,15 @@ ScratchFolder::~ScratchFolder() {
 }
 
 std::wstring ScratchFolder::Path() const {
-    return ZelCommon::Path::ChildFolder(m_root.wstring(), L"");
+    return Path::ChildFolder(m_root.wstring(), L"");
 }
 
 std::wstring ScratchFolder::Folder(const std::wstring& name) const {
-    const std::wstring folder = ZelCommon::Path::ChildFolder(Path(), name);
-    ZelCommon::Path::CreateFolderWithParents(folder);
-    return folder;
+    return Path::ChildFolder(Path(), name);
 }
 
-}  // namespace Orva::Sim
+std::wstring ScratchFolder::File(const std::wstring& name) const {
+    return Path::ChildFile(Path(), name);
+}
+
+}  // namespace ZelCommon::Fakes
