@@ -6,8 +6,8 @@
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID reserved) {
     switch (reason) {
         case DLL_PROCESS_ATTACH:
+            // Thread notifications stay on: the statically linked runtime keeps per-thread data.
             Orva::Plugin::RememberAddinModule(module);
-            ::DisableThreadLibraryCalls(module);
             break;
         case DLL_PROCESS_DETACH:
             if (reserved == nullptr) {
