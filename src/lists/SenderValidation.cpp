@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "common_src/platform/TextCodec.h"
 #include "lists/ListKinds.h"
 #include "lists/ListText.h"
 #include "lists/SenderListSet.h"
@@ -39,15 +40,6 @@ SenderValidation Refuse(SenderValidation result, SenderCheck check, std::wstring
 }
 
 }  // namespace
-
-std::wstring_view TrimField(std::wstring_view text) {
-    constexpr std::wstring_view kBlanks = L" \r\n\t";
-    const size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::wstring_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 // The local part (?:[0-9A-Za-z-]*(\.|_))*?[0-9A-Za-z-]+ is any run of letters, dots and
 // underscores ending in a letter; the domain [\w-]+\.(?:[\w-]+\.)*?\w+ is two or more non-empty
@@ -119,8 +111,8 @@ bool IsAcceptableAddress(std::wstring_view address) {
 
 SenderValidation ValidateSender(std::wstring_view name, std::wstring_view address) {
     SenderValidation result;
-    result.name.assign(TrimField(name));
-    result.address.assign(TrimField(address));
+    result.name.assign(ZelCommon::Text::TrimBlanks(name));
+    result.address.assign(ZelCommon::Text::TrimBlanks(address));
     if (result.address.size() > kMaxFieldLength) {
         return Refuse(std::move(result), SenderCheck::AddressTooLong, kTooLongMessage,
                       static_cast<int>(kMaxFieldLength));

@@ -51,7 +51,4 @@ bool IsAcceptableAddress(std::wstring_view address);
 // kAddressPattern's full match, on text without "*" and without characters above U+0080.
 bool MatchesAddressPattern(std::wstring_view address);
 
-// Trims " \r\n\t" from both ends.
-std::wstring_view TrimField(std::wstring_view text);
-
 }  // namespace Orva::Lists

@@ -1,6 +1,7 @@
 #include <string>
 #include <string_view>
 
+#include "common_src/platform/TextCodec.h"
 #include "plugin/ControllerProtocol.h"
 #include "plugin/ToolBarController.h"
 
@@ -13,19 +14,10 @@ constexpr int kClassicClientVersion = 14;
 constexpr int kFirstRibbonClientVersion = 15;
 constexpr int kLastRibbonClientVersion = 16;
 
-std::wstring_view TrimBlanks(std::wstring_view text) {
-    constexpr std::wstring_view blanks = L" \t\r\n";
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::wstring_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 }  // namespace
 
 bool CToolBarController::ReadToolbarEnabled() const {
-    return TrimBlanks(m_parts.settings.GetString(SettingId::EnableTBar)) != L"0";
+    return ZelCommon::Text::TrimBlanks(m_parts.settings.GetString(SettingId::EnableTBar)) != L"0";
 }
 
 intptr_t CToolBarController::OnBuildUI() {

@@ -96,7 +96,8 @@ std::wstring OtherListPath(const std::wstring& path, std::wstring_view otherFile
 }
 
 std::wstring CsvField(const std::wstring& value) {
-    if (value.find_first_of(L",\"") == std::wstring::npos && value == Lists::TrimField(value)) {
+    if (value.find_first_of(L",\"") == std::wstring::npos &&
+        value == ZelCommon::Text::TrimBlanks(value)) {
         return value;
     }
     std::wstring quoted = L"\"";
@@ -210,7 +211,7 @@ int Remove(const std::wstring& path, const std::wstring& address, ITextSink& out
     if (const auto problem = LoadList(path, set, false)) {
         return ReportFailure(err, *problem);
     }
-    const std::wstring trimmed(Lists::TrimField(address));
+    const std::wstring trimmed(ZelCommon::Text::TrimBlanks(address));
     if (!set.Find(trimmed.c_str())) {
         return ReportFailure(err, trimmed + L" is not in " + path);
     }
@@ -266,7 +267,7 @@ int Import(const std::wstring& path, const ImportOptions& options, ITextSink& ou
     bool seenContent = false;
     Lists::ForEachLine(std::wstring_view(*text), [&](std::wstring_view line) {
         ++lineNumber;
-        if (Lists::TrimField(line).empty()) {
+        if (ZelCommon::Text::TrimBlanks(line).empty()) {
             return true;
         }
         std::wstring address(line);
@@ -281,7 +282,8 @@ int Import(const std::wstring& path, const ImportOptions& options, ITextSink& ou
             address = (*fields)[0];
             name = fields->size() > 1 ? (*fields)[1] : std::wstring();
             // A peer's export may start with a heading.
-            if (!seenContent && ZelCommon::Text::ToLower(Lists::TrimField(address)) == L"address") {
+            if (!seenContent &&
+                ZelCommon::Text::ToLower(ZelCommon::Text::TrimBlanks(address)) == L"address") {
                 seenContent = true;
                 return true;
             }

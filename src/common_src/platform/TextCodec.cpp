@@ -3,6 +3,15 @@
 #include <cstdint>
 
 namespace ZelCommon::Text {
+
+std::wstring_view TrimBlanks(std::wstring_view text) {
+    constexpr std::wstring_view kBlanks = L" \t\r\n";
+    const size_t first = text.find_first_not_of(kBlanks);
+    if (first == std::wstring_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;

@@ -19,4 +19,7 @@ std::string WideToAnsi(std::wstring_view wide);
 // at least the Latin-1 and ASCII ranges natively).
 std::wstring ToLower(std::wstring_view text);
 
+// The text without the blanks " \t\r\n" at either end.
+std::wstring_view TrimBlanks(std::wstring_view text);
+
 }  // namespace ZelCommon::Text
