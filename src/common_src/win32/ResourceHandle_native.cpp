@@ -21,9 +21,4 @@ bool ResourceHandle::Load(const std::wstring& path) {
     return true;
 }
 
-void ResourceHandle::Reset() {
-    m_module.reset();
-    m_path.clear();
-}
-
 }  // namespace ZelCommon::Win32
