@@ -133,16 +133,15 @@ void ProfileEngine::ClearCache() {
 // A file's stamp proves it unchanged only once its write time is safely in the past: file
 // systems keep write times coarsely, so a same-sized rewrite moments ago may keep the old stamp.
 // A recent file is read again and its bytes compared, which still spares the parse.
-std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* file,
-                                                                 uint32_t& error) {
+std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* file) {
     static const auto kMissing = std::make_shared<const Document>(ProfileFile::ParseDocument({}));
     if (file == nullptr || *file == L'\0') {
-        error = kFileNotFound;
+        SetLastError(kFileNotFound);
         return nullptr;
     }
     const std::wstring path(file);
     ProfileFile::FileStamp stamp;
-    error = ProfileFile::QueryStamp(path, stamp);
+    uint32_t error = ProfileFile::QueryStamp(path, stamp);
     if (error == 0) {
         auto cached = m_cache.find(path);
         if (cached != m_cache.end() && cached->second.stamp == stamp &&
@@ -161,11 +160,8 @@ std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* 
         }
     }
     m_cache.erase(path);
-    if (error == kFileNotFound) {
-        SetLastError(kFileNotFound);
-        return kMissing;
-    }
-    return nullptr;
+    SetLastError(error);
+    return error == kFileNotFound ? kMissing : nullptr;
 }
 
 std::shared_ptr<const ProfileFile::Document> ProfileEngine::Remember(
@@ -224,10 +220,8 @@ uint32_t ProfileEngine::GetStringLocked(const wchar_t* section, const wchar_t* k
     while (fallback.size() > 1 && fallback.back() == L' ') {
         fallback.remove_suffix(1);
     }
-    uint32_t error = 0;
-    const auto document = Load(file, error);
+    const auto document = Load(file);
     if (!document) {
-        SetLastError(error);
         return CopyTruncated(buffer, size, fallback);
     }
     size_t index = 0;
@@ -272,10 +266,8 @@ uint32_t ProfileEngine::GetSection(const wchar_t* section, wchar_t* buffer, uint
 // double-zero-terminated list; a list cut short ends in two zeros and returns size - 2.
 uint32_t ProfileEngine::ListSection(const wchar_t* section, wchar_t* buffer, uint32_t size,
                                     const wchar_t* file, bool withValues) {
-    uint32_t error = 0;
-    const auto document = Load(file, error);
+    const auto document = Load(file);
     if (!document) {
-        SetLastError(error);
         if (size > 0) {
             buffer[0] = L'\0';
         }
@@ -344,10 +336,8 @@ uint32_t ProfileEngine::GetSectionNames(wchar_t* buffer, uint32_t size, const wc
 // Every named section, duplicates included, as a double-zero-terminated list; the name that
 // does not fit is cut so that the list still ends in two zeros, and size - 2 comes back.
 uint32_t ProfileEngine::GetSectionNamesLocked(wchar_t* buffer, uint32_t size, const wchar_t* file) {
-    uint32_t error = 0;
-    const auto document = Load(file, error);
+    const auto document = Load(file);
     if (!document) {
-        SetLastError(error);
         return 0;
     }
     if (buffer == nullptr || size == 0) {
@@ -406,10 +396,8 @@ bool ProfileEngine::WriteString(const wchar_t* section, const wchar_t* key, cons
 }
 
 bool ProfileEngine::DeleteSection(const wchar_t* section, const wchar_t* file) {
-    uint32_t error = 0;
-    const auto document = Load(file, error);
+    const auto document = Load(file);
     if (!document) {
-        SetLastError(error);
         return false;
     }
     const std::wstring folded = FoldCase(section);
@@ -430,10 +418,8 @@ bool ProfileEngine::DeleteSection(const wchar_t* section, const wchar_t* file) {
 
 // Deleting a key compares the names untrimmed and looks through every section of that name.
 bool ProfileEngine::DeleteEntry(const wchar_t* section, const wchar_t* key, const wchar_t* file) {
-    uint32_t error = 0;
-    const auto document = Load(file, error);
+    const auto document = Load(file);
     if (!document) {
-        SetLastError(error);
         return false;
     }
     if (section == nullptr) {
@@ -461,10 +447,8 @@ bool ProfileEngine::DeleteEntry(const wchar_t* section, const wchar_t* key, cons
 
 bool ProfileEngine::SetEntry(const wchar_t* section, const wchar_t* key, const wchar_t* value,
                              const wchar_t* file) {
-    uint32_t error = 0;
-    const auto document = Load(file, error);
+    const auto document = Load(file);
     if (!document) {
-        SetLastError(error);
         return false;
     }
     if (section == nullptr) {

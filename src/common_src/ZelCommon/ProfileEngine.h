@@ -43,9 +43,10 @@ private:
         std::shared_ptr<const Document> document;
     };
 
-    // The file's parsed contents (empty when it does not exist), or null with the error code
-    // when it cannot be read.
-    std::shared_ptr<const Document> Load(const wchar_t* file, uint32_t& error);
+    // The file's parsed contents (empty when it does not exist, with the last error set to
+    // file-not-found, as the profile functions leave it), or null with the last error set when
+    // it cannot be read.
+    std::shared_ptr<const Document> Load(const wchar_t* file);
     std::shared_ptr<const Document> Remember(const std::wstring& path,
                                              const ProfileFile::FileStamp& stamp,
                                              std::string bytes);
