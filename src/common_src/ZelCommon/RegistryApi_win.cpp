@@ -75,21 +75,25 @@ public:
     }
 
     int32_t EnumKey(RegHandle key, uint32_t index, wchar_t* name, uint32_t* nameLength) override {
-        DWORD length = nameLength != nullptr ? *nameLength : 0;
-        const LONG status =
-            RegEnumKeyExW(ToHkey(key), index, name, nameLength != nullptr ? &length : nullptr,
-                          nullptr, nullptr, nullptr, nullptr);
-        if (nameLength != nullptr) {
-            *nameLength = length;
-        }
-        return status;
+        return EnumName(nameLength, [&](DWORD* length) {
+            return RegEnumKeyExW(ToHkey(key), index, name, length, nullptr, nullptr, nullptr,
+                                 nullptr);
+        });
     }
 
     int32_t EnumValue(RegHandle key, uint32_t index, wchar_t* name, uint32_t* nameLength) override {
+        return EnumName(nameLength, [&](DWORD* length) {
+            return RegEnumValueW(ToHkey(key), index, name, length, nullptr, nullptr, nullptr,
+                                 nullptr);
+        });
+    }
+
+private:
+    // Both enumerations take the name's length in and give it back through a DWORD.
+    template <class Enumerate>
+    static int32_t EnumName(uint32_t* nameLength, Enumerate enumerate) {
         DWORD length = nameLength != nullptr ? *nameLength : 0;
-        const LONG status =
-            RegEnumValueW(ToHkey(key), index, name, nameLength != nullptr ? &length : nullptr,
-                          nullptr, nullptr, nullptr, nullptr);
+        const LONG status = enumerate(nameLength != nullptr ? &length : nullptr);
         if (nameLength != nullptr) {
             *nameLength = length;
         }
