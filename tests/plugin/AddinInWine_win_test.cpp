@@ -11,11 +11,13 @@
 
 #include "common_src/platform/Path.h"
 #include "common_src/platform/TextCodec.h"
+#include "common_src/platform/UniqueHandle_win.h"
 #include "plugin/AgentProtocol.h"
 #include "plugin/ControllerProtocol.h"
 #include "plugin/FakeHostObject_win.h"
 #include "support/FileBytes.h"
 #include "support/MessagePump_win.h"
+#include "support/ProgramFolder.h"
 #include "support/TempFolder.h"
 #include "tools/sim/agent/SimAgentProtocol.h"
 
@@ -33,12 +35,6 @@ Function ExportAs(FARPROC address) {
     return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(address));
 }
 
-std::wstring ProgramFolder() {
-    wchar_t path[MAX_PATH] = {};
-    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return ZelCommon::Path::FolderOf(path);
-}
-
 // The debug log's folder for the identity Wine has ("Default").
 std::filesystem::path LogFolder() {
     wchar_t common[MAX_PATH] = {};
@@ -49,12 +45,12 @@ std::filesystem::path LogFolder() {
 std::wstring ImagePathOfWindowsProcess(HWND window) {
     DWORD processId = 0;
     ::GetWindowThreadProcessId(window, &processId);
-    const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId);
+    const ZelCommon::Platform::UniqueHandle process(
+        ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
     wchar_t path[MAX_PATH] = {};
     DWORD size = MAX_PATH;
-    if (process != nullptr) {
-        ::QueryFullProcessImageNameW(process, 0, path, &size);
-        ::CloseHandle(process);
+    if (process) {
+        ::QueryFullProcessImageNameW(process.get(), 0, path, &size);
     }
     return path;
 }
@@ -109,7 +105,7 @@ protected:
     const std::wstring kControllerClass{kControllerClassName};
     Testing::TempFolder folder;
     std::wstring record = folder.File(L"agent.txt");
-    std::wstring installFile = ProgramFolder() + L"ORVA_WLM.ini";
+    std::wstring installFile = Testing::ProgramFolder() + L"ORVA_WLM.ini";
     UniqueModule addin;
 };
 
@@ -125,7 +121,8 @@ TEST_F(AddinInWine, FirstCall_StartsTheAgentFromTheAddinFolderAndTheControllerOn
     EXPECT_EQ(::GetWindowThreadProcessId(controller, nullptr), ::GetCurrentThreadId());
     const HWND agent = Testing::WaitForWindowTitled(kAgentTitle);
     ASSERT_NE(agent, nullptr);
-    EXPECT_EQ(ZelCommon::Path::FolderOf(ImagePathOfWindowsProcess(agent)), ProgramFolder());
+    EXPECT_EQ(ZelCommon::Path::FolderOf(ImagePathOfWindowsProcess(agent)),
+              Testing::ProgramFolder());
     EXPECT_EQ(::SendMessageW(controller, ControllerMessage::AgentReady, 0, 0), 0);
     EXPECT_TRUE(LogShows("WLM Shadow is OK now!"));
 

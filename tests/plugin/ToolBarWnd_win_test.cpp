@@ -14,6 +14,7 @@
 #include "common_src/platform/WindowProcedureHook.h"
 #include "support/FileBytes.h"
 #include "support/MessagePump_win.h"
+#include "support/ProgramFolder.h"
 #include "support/TempFolder.h"
 #include "support/TestWindow_win.h"
 
@@ -222,21 +223,15 @@ protected:
             [&] { return Testing::ReadFileBytes(record).find(lines) != std::string::npos; });
     }
 
-    static std::wstring ProgramFolder() {
-        wchar_t path[MAX_PATH] = {};
-        ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-        return ZelCommon::Path::FolderOf(path);
-    }
-
     const std::wstring kAgentTitle{kAgentWindowTitle};
     Testing::TempFolder folder;
     std::wstring record = folder.File(L"agent.txt");
     WindowRig rig;
     std::unique_ptr<ZelCommon::Platform::IWindowProcedureHook> hook =
         ZelCommon::Platform::CreateWindowProcedureHook(CToolBarWnd::MainWindowHookProcedure());
-    CAgentLink agent{ZelCommon::Platform::SystemWindowMessaging(),
-                     ZelCommon::Platform::SystemClock(),
-                     ZelCommon::Platform::SystemProcessLauncher(), rig.log, ProgramFolder()};
+    CAgentLink agent{
+        ZelCommon::Platform::SystemWindowMessaging(), ZelCommon::Platform::SystemClock(),
+        ZelCommon::Platform::SystemProcessLauncher(), rig.log, Testing::ProgramFolder()};
     HWND agentWindow = nullptr;
 };
 

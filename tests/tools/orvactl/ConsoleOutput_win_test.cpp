@@ -5,16 +5,14 @@
 #include <memory>
 #include <string>
 
+#include "common_src/platform/UniqueHandle_win.h"
 #include "support/TempFolder.h"
 #include "tools/orvactl/TextSink.h"
 
 namespace Orva::Orvactl {
 namespace {
 
-struct HandleCloser {
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-using UniqueHandle = std::unique_ptr<void, HandleCloser>;
+using ZelCommon::Platform::UniqueHandle;
 
 // Points the standard output at a file for the life of the object.
 class RedirectedOutput {

@@ -2,48 +2,35 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <memory>
 #include <string>
-#include <thread>
 #include <type_traits>
 #include <vector>
 
 #include "common_src/platform/Path.h"
+#include "common_src/platform/UniqueHandle_win.h"
 #include "support/FileBytes.h"
 #include "support/MessagePump_win.h"
+#include "support/ProgramFolder.h"
 #include "support/TempFolder.h"
 #include "tools/sim/agent/SimAgentProtocol.h"
 
 namespace Orva::Sim {
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr wchar_t kControllerClass[] = L"{459F0EC1-7A80-47c5-A264-B8285F4041DD}";
-
-struct HandleCloser {
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-using UniqueHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, HandleCloser>;
 
 struct WindowDestroyer {
     void operator()(HWND window) const { DestroyWindow(window); }
 };
 using UniqueWindow = std::unique_ptr<std::remove_pointer_t<HWND>, WindowDestroyer>;
 
-std::wstring TestProgramFolder() {
-    wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return ZelCommon::Path::FolderOf(path);
-}
-
 // Starts the agent beside this program as the add-in does: quoted path, then the title.
 class AgentProcess {
 public:
     AgentProcess(const std::wstring& title, const std::wstring& recordPath) : m_title(title) {
         SetEnvironmentVariableW(kRecordVariable, recordPath.c_str());
-        std::wstring commandLine = L"\"" + TestProgramFolder() + L"ORVA_WLM.exe\" " + title;
+        std::wstring commandLine = L"\"" + Testing::ProgramFolder() + L"ORVA_WLM.exe\" " + title;
         STARTUPINFOW startup{};
         startup.cb = sizeof(startup);
         PROCESS_INFORMATION info{};
@@ -60,13 +47,7 @@ public:
     }
 
     HWND WaitForWindow() const {
-        for (int i = 0; i < 200 && m_process; ++i) {
-            if (HWND window = FindWindowW(nullptr, m_title.c_str())) {
-                return window;
-            }
-            std::this_thread::sleep_for(50ms);
-        }
-        return nullptr;
+        return m_process ? Testing::WaitForWindowTitled(m_title) : nullptr;
     }
     bool WaitForExit() const {
         return m_process && WaitForSingleObject(m_process.get(), 10000) == WAIT_OBJECT_0;
@@ -74,7 +55,7 @@ public:
 
 private:
     std::wstring m_title;
-    UniqueHandle m_process;
+    ZelCommon::Platform::UniqueHandle m_process;
 };
 
 std::wstring UniqueTitle() {
@@ -140,16 +121,6 @@ UniqueWindow CreateController() {
                                         nullptr, GetModuleHandleW(nullptr), nullptr));
 }
 
-void PumpUntil(size_t count) {
-    for (int i = 0; i < 200 && Received().size() < count; ++i) {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            DispatchMessageW(&message);
-        }
-        std::this_thread::sleep_for(10ms);
-    }
-}
-
 TEST(SimulatedAgent, DeliversCommandedMessagesToTheController) {
     Received().clear();
     UniqueWindow controller = CreateController();
@@ -162,7 +133,7 @@ TEST(SimulatedAgent, DeliversCommandedMessagesToTheController) {
     AgentCommand ready;
     ready.message = 1075;
     EXPECT_EQ(Testing::SendAgentCommand(window, ready), 1);
-    PumpUntil(1);
+    Testing::PumpMessagesUntil([] { return !Received().empty(); });
 
     AgentCommand hook;
     hook.delivery = Delivery::Send;
