@@ -52,6 +52,16 @@ inline std::wstring AgentEntry(const wchar_t* delivery, uint32_t message, uintpt
            std::to_wstring(lParam);
 }
 
+// What a test puts in place of the rig's own fakes (the real window calls, messaging or
+// hook under Wine, a part that fails).
+struct ControllerReplacements {
+    ZelCommon::Platform::IWindowMessaging* messaging = nullptr;
+    ZelCommon::Platform::IWindowProcedureHook* hook = nullptr;
+    Plugin::IControllerWindow* window = nullptr;
+    Plugin::ISpamFolder* spamFolder = nullptr;
+    Plugin::CAgentLink* agent = nullptr;
+};
+
 // Every port and part of the controller as a recording fake, all writing into one journal.
 struct ControllerRig {
     ControllerRig() {
@@ -74,14 +84,22 @@ struct ControllerRig {
                                                std::wstring(Plugin::kControllerClassName));
     }
 
+    std::unique_ptr<Plugin::CToolBarController> MakeController(
+        const ControllerReplacements& with = {}) {
+        return std::make_unique<Plugin::CToolBarController>(
+            Plugin::ControllerPorts{with.messaging ? *with.messaging : messaging, clock,
+                                    shutdownDone, with.hook ? *with.hook : hook, shell, keyboard,
+                                    process, plainDebugger, os, with.window ? *with.window : window,
+                                    host, version, log},
+            Plugin::ControllerParts{ribbon, classic,
+                                    with.spamFolder ? *with.spamFolder : spamFolder, account,
+                                    dialogs, strings, settings, with.agent ? *with.agent : agent});
+    }
+
     // Built on first use, so that a test can prepare the settings it reads when created.
     Plugin::CToolBarController& Controller() {
         if (!controller) {
-            controller = std::make_unique<Plugin::CToolBarController>(
-                Plugin::ControllerPorts{messaging, clock, shutdownDone, hook, shell, keyboard,
-                                        process, plainDebugger, os, window, host, version, log},
-                Plugin::ControllerParts{ribbon, classic, spamFolder, account, dialogs, strings,
-                                        settings, agent});
+            controller = MakeController();
             controller->SetWindow(controllerWindow);
         }
         return *controller;

@@ -44,11 +44,8 @@ struct WindowRig : ControllerRig {
         return CToolBarWnd::Create(
             ::GetModuleHandleW(nullptr),
             [&](IControllerWindow& ownWindow) {
-                return std::make_unique<CToolBarController>(
-                    ControllerPorts{messagingPort, clock, shutdownDone, hookPort, shell, keyboard,
-                                    process, plainDebugger, os, ownWindow, host, version, log},
-                    ControllerParts{ribbon, classic, spamFolderPart, account, dialogs, strings,
-                                    settings, agentLink != nullptr ? *agentLink : agent});
+                return MakeController(
+                    {&messagingPort, &hookPort, &ownWindow, &spamFolderPart, agentLink});
             },
             log);
     }
