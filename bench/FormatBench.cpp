@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <string>
 
-#include "common_src/fakes/FakeClock.h"
-#include "common_src/fakes/FakeProcessContext.h"
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/WideFormat.h"
-#include "settings/DebugLog.h"
+#include "settings/log/DebugLog.h"
 
 namespace {
 

@@ -21,29 +21,55 @@ function(orva_collect_sources out_var dir)
     set(${out_var} ${_picked} PARENT_SCOPE)
 endfunction()
 
-# A static library from one folder's sources, with the project's warnings and include root.
+# The include root a library gives to whoever links it: a build folder that holds links to the
+# headers of the library's own folder only (not its sub-folders), under the same path as in the
+# tree. A target therefore sees a header only if it links the library that owns it, and an
+# include across layers that the link graph does not allow fails to compile.
+function(orva_expose_headers name dir root)
+    file(RELATIVE_PATH _relative ${root} ${dir})
+    set(_exposed ${CMAKE_BINARY_DIR}/include/${name})
+    file(REMOVE_RECURSE ${_exposed})
+    file(MAKE_DIRECTORY ${_exposed}/${_relative})
+    file(GLOB _headers CONFIGURE_DEPENDS ${dir}/*.h)
+    foreach(_header IN LISTS _headers)
+        get_filename_component(_file ${_header} NAME)
+        file(CREATE_LINK ${_header} ${_exposed}/${_relative}/${_file} SYMBOLIC)
+    endforeach()
+    set(${name}_INCLUDE_ROOT ${_exposed} PARENT_SCOPE)
+endfunction()
+
+# A static library from one folder's sources, with the project's warnings; its headers are named
+# from `ROOT` (the source tree's src/ unless given).
 function(orva_add_library name dir)
+    cmake_parse_arguments(PARSE_ARGV 2 _arg "" "ROOT" "")
+    if(NOT _arg_ROOT)
+        set(_arg_ROOT ${PROJECT_SOURCE_DIR}/src)
+    endif()
+    if(NOT IS_ABSOLUTE ${dir})
+        set(dir ${_arg_ROOT}/${dir})
+    endif()
+    orva_expose_headers(${name} ${dir} ${_arg_ROOT})
     orva_collect_sources(_sources ${dir})
-    list(FILTER _sources EXCLUDE REGEX "/main\\.cpp$")
+    list(FILTER _sources EXCLUDE REGEX "/main(_win)?\\.cpp$")
     if(NOT _sources)
-        # A folder that holds only headers so far.
+        # A folder that holds only headers.
         add_library(${name} INTERFACE)
-        target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR}/src)
+        target_include_directories(${name} INTERFACE ${${name}_INCLUDE_ROOT})
         return()
     endif()
     add_library(${name} STATIC ${_sources})
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_include_directories(${name} PUBLIC ${${name}_INCLUDE_ROOT})
     target_link_libraries(${name} PRIVATE orva_warnings)
     if(WIN32)
         target_link_libraries(${name} PUBLIC orva_win32_defs)
     endif()
 endfunction()
 
-# A GoogleTest program from one test folder (tests ending _test.cpp, Win32-only ones
+# A GoogleTest program from one test folder and its sub-folders (tests ending _test.cpp, Win32-only ones
 # _win_test.cpp, native-only ones _native_test.cpp). Natively every test is its own CTest entry;
 # under Wine one entry runs the whole program, since each start of a Wine process is costly.
 function(orva_add_test_program name dir)
-    file(GLOB _all CONFIGURE_DEPENDS ${dir}/*.cpp)
+    file(GLOB_RECURSE _all CONFIGURE_DEPENDS ${dir}/*.cpp)
     set(_picked)
     foreach(_file IN LISTS _all)
         if(_file MATCHES "_win_test\\.cpp$" AND NOT WIN32)
@@ -59,7 +85,9 @@ function(orva_add_test_program name dir)
         return()
     endif()
     add_executable(${name} ${_picked})
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    # Tests that read the shipped resources find the checkout through this, wherever the build is.
+    target_compile_definitions(${name} PRIVATE ORVA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE orva_warnings ${ARGN} GTest::gmock GTest::gtest_main)
     if(WIN32)
         add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)

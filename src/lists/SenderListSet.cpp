@@ -4,7 +4,7 @@
 
 #include "common_src/platform/TextCodec.h"
 #include "lists/SenderListFile.h"
-#include "settings/DebugLog.h"
+#include "settings/log/DebugLog.h"
 
 namespace Orva::Lists {
 namespace {

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "common_src/win32/MuiResource.h"
-#include "settings/FileVersionReader.h"
+#include "settings/probes/FileVersionReader.h"
 #include "settings/SettingsStartup.h"
 
 namespace Orva::Plugin {

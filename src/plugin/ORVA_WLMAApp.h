@@ -12,12 +12,12 @@
 #include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "common_src/win32/ResourceHandle.h"
-#include "plugin/AgentLink.h"
-#include "settings/DebugLog.h"
+#include "plugin/agent/AgentLink.h"
+#include "settings/log/DebugLog.h"
 #include "settings/SettingsPaths.h"
 #include "settings/SettingsStore.h"
-#include "settings/StringLoaderServices.h"
-#include "settings/ZelResourceStringLoader.h"
+#include "settings/localisation/StringLoaderServices.h"
+#include "settings/localisation/ZelResourceStringLoader.h"
 
 namespace Orva::Plugin {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "settings/DebugLog.h"
+#include "settings/log/DebugLog.h"
 #include "settings/SettingsStore.h"
 
 namespace Orva::Settings {

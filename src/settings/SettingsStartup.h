@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "common_src/ZelCommon/ProfileApi.h"
-#include "settings/DebugLog.h"
+#include "settings/log/DebugLog.h"
 #include "settings/Presets.h"
 #include "settings/SettingsPaths.h"
 #include "settings/SettingsStore.h"

@@ -4,7 +4,7 @@
 
 #include "common_src/platform/TextCodec.h"
 #include "common_src/platform/WideFormat.h"
-#include "settings/ProfileLists.h"
+#include "common_src/ZelCommon/ProfileLists.h"
 
 namespace Orva::Settings {
 
@@ -46,7 +46,7 @@ int32_t SettingsStore::GetInt(SettingId id) const {
 
 std::optional<std::wstring> SettingsStore::GetStored(SettingId id) const {
     const std::wstring wanted = ZelCommon::Text::ToLower(Entry(id).key);
-    for (const std::wstring& name : ReadKeyNames(m_api, FileOf(id), SectionOf(id))) {
+    for (const std::wstring& name : ZelCommon::Storage::ReadKeyNames(m_api, FileOf(id), SectionOf(id))) {
         if (ZelCommon::Text::ToLower(name) == wanted) {
             return ZelCommon::Storage::ReadProfileString(m_api, FileOf(id), SectionOf(id),
                                                          std::wstring(Entry(id).key), L"");

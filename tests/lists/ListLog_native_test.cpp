@@ -5,7 +5,7 @@
 
 #include "ListTestFiles.h"
 #include "lists/SenderListSet.h"
-#include "settings/DebugLog.h"
+#include "settings/log/DebugLog.h"
 
 namespace Orva::Lists {
 namespace {

@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "common_src/ZelCommon/MemoryRegistry.h"
-#include "common_src/fakes/FakeClock.h"
-#include "common_src/fakes/FakeLocale.h"
-#include "common_src/fakes/FakeProcessContext.h"
-#include "common_src/fakes/FakeSystemPorts.h"
-#include "common_src/fakes/FakeWindowMessaging.h"
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeLocale.h"
+#include "support/fakes/platform/FakeProcessContext.h"
+#include "support/fakes/platform/FakeSystemPorts.h"
+#include "support/fakes/platform/FakeWindowMessaging.h"
 #include "common_src/platform/Path.h"
-#include "plugin/AgentProtocol.h"
+#include "plugin/protocol/AgentProtocol.h"
 #include "settings/SettingsCatalogue.h"
 #include "support/TempFolder.h"
 

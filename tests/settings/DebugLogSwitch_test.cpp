@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "SettingsTestFiles.h"
-#include "common_src/fakes/FakeClock.h"
-#include "common_src/fakes/FakeProcessContext.h"
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
 
 namespace Orva::Settings {

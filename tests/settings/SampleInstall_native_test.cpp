@@ -5,8 +5,8 @@
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/TextCodec.h"
-#include "settings/OnlineHelpAddress.h"
-#include "settings/ProfileLists.h"
+#include "settings/localisation/OnlineHelpAddress.h"
+#include "common_src/ZelCommon/ProfileLists.h"
 #include "settings/SettingsCatalogue.h"
 
 namespace Orva::Settings {
@@ -30,8 +30,8 @@ TEST(SampleInstall, EveryKey_IsAnInstallationSettingOfTheCatalogueOrOfTheHelp) {
     const std::wstring file = SampleInstallFile();
     ASSERT_TRUE(ZelCommon::Path::FileExists(file));
     size_t keys = 0;
-    for (const std::wstring& section : ReadSectionNames(api, file)) {
-        for (const std::wstring& key : ReadKeyNames(api, file, section)) {
+    for (const std::wstring& section : ZelCommon::Storage::ReadSectionNames(api, file)) {
+        for (const std::wstring& key : ZelCommon::Storage::ReadKeyNames(api, file, section)) {
             ++keys;
             EXPECT_TRUE(FindSetting(SettingsFile::Install, section, key).has_value() ||
                         IsOnlineHelpKey(section, key))

@@ -7,7 +7,7 @@
 #include "support/TempFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/Registry.h"
-#include "common_src/fakes/FakeProcessContext.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
 
 namespace Orva::Settings {

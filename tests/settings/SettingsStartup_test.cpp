@@ -4,8 +4,8 @@
 
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/Registry.h"
-#include "common_src/fakes/FakeClock.h"
-#include "common_src/fakes/FakeProcessContext.h"
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
 #include "support/TempFolder.h"
 

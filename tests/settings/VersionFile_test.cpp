@@ -4,7 +4,7 @@
 
 #include "SettingsTestFiles.h"
 #include "common_src/platform/Path.h"
-#include "settings/ProfileLists.h"
+#include "common_src/ZelCommon/ProfileLists.h"
 
 namespace Orva::Settings {
 namespace {
@@ -33,7 +33,7 @@ TEST(VersionFile, Windows32_WritesEverythingToOrvaOe) {
     EXPECT_EQ(Read(file, L"ORVA_OE", L"class"), L"WLMA");
     EXPECT_EQ(Read(file, L"ORVA_OE", L"type"), L"addin");
     EXPECT_EQ(Read(file, L"ORVA_OE", L"DeployVersion"), L"1.2.3.4");
-    EXPECT_EQ(ReadSectionNames(ZelCommon::Storage::SystemProfileApi(), file),
+    EXPECT_EQ(ZelCommon::Storage::ReadSectionNames(ZelCommon::Storage::SystemProfileApi(), file),
               std::vector<std::wstring>{L"ORVA_OE"});
 }
 

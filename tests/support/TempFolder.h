@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "common_src/fakes/ScratchFolder.h"
+#include "support/ScratchFolder.h"
 
 namespace Orva::Testing {
 

@@ -8,7 +8,7 @@
 #include "FileChecks.h"
 #include "Orvactl.h"
 #include "common_src/platform/WideFormat.h"
-#include "settings/ProfileLists.h"
+#include "common_src/ZelCommon/ProfileLists.h"
 
 namespace Orva::Orvactl {
 namespace {
@@ -141,10 +141,10 @@ int RunIniCommand(Args args, ITextSink& out, ITextSink& err, IProfileApi& api) {
                      err, api);
     }
     if (args[0] == L"sections") {
-        WriteLines(out, Settings::ReadSectionNames(api, file));
+        WriteLines(out, ZelCommon::Storage::ReadSectionNames(api, file));
         return kExitOk;
     }
-    WriteLines(out, Settings::ReadKeyNames(api, file, args[2]));
+    WriteLines(out, ZelCommon::Storage::ReadKeyNames(api, file, args[2]));
     return kExitOk;
 }
 

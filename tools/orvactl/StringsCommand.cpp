@@ -8,10 +8,10 @@
 #include "Orvactl.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
-#include "settings/StringEscapes.h"
-#include "settings/StringIds.h"
-#include "settings/StringTableCheck.h"
-#include "settings/ZelResourceStringLoader.h"
+#include "settings/localisation/StringEscapes.h"
+#include "settings/localisation/StringIds.h"
+#include "settings/localisation/StringTableCheck.h"
+#include "settings/localisation/ZelResourceStringLoader.h"
 
 namespace Orva::Orvactl {
 namespace {

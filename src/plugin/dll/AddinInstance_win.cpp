@@ -10,10 +10,10 @@
 #include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "plugin/ORVA_WLMAApp.h"
-#include "plugin/ToolBarWnd_win.h"
+#include "plugin/controller/ToolBarWnd_win.h"
 #include "plugin/dll/SystemController_win.h"
-#include "settings/DebugLog.h"
-#include "settings/StringLoaderServices.h"
+#include "settings/log/DebugLog.h"
+#include "settings/localisation/StringLoaderServices.h"
 
 namespace Orva::Plugin {
 namespace {

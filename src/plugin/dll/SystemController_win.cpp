@@ -6,13 +6,13 @@
 #include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "common_src/platform/WindowProcedureHook.h"
-#include "plugin/HostEventRelay.h"
-#include "plugin/HostObjects.h"
-#include "plugin/LoaderStrings.h"
-#include "plugin/MailClientVersion.h"
-#include "plugin/PendingParts.h"
-#include "plugin/ToolBarWnd_win.h"
-#include "settings/OsInfo.h"
+#include "plugin/host/HostEventRelay.h"
+#include "plugin/host/HostObjects.h"
+#include "plugin/controller/LoaderStrings.h"
+#include "plugin/controller/MailClientVersion.h"
+#include "plugin/controller/PendingParts.h"
+#include "plugin/controller/ToolBarWnd_win.h"
+#include "settings/probes/OsInfo.h"
 
 namespace Orva::Plugin {
 namespace {

@@ -11,7 +11,7 @@
 #include "common_src/ZelCommon/IniFile.h"
 #include "common_src/ZelCommon/ProfileEngine.h"
 #include "common_src/ZelCommon/StorageException.h"
-#include "common_src/fakes/FakeProfileApi.h"
+#include "support/fakes/ZelCommon/FakeProfileApi.h"
 
 namespace ZelCommon::Storage {
 namespace {

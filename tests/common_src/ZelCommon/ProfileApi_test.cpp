@@ -3,7 +3,7 @@
 #include <string>
 
 #include "common_src/ZelCommon/ProfileApi.h"
-#include "common_src/fakes/FakeProfileApi.h"
+#include "support/fakes/ZelCommon/FakeProfileApi.h"
 
 namespace ZelCommon::Storage {
 namespace {

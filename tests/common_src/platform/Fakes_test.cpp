@@ -3,9 +3,9 @@
 #include <thread>
 #include <vector>
 
-#include "common_src/fakes/FakeClock.h"
-#include "common_src/fakes/FakeProcessContext.h"
-#include "common_src/fakes/FakeWindowMessaging.h"
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeProcessContext.h"
+#include "support/fakes/platform/FakeWindowMessaging.h"
 
 namespace {
 

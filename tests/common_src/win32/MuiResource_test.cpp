@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "common_src/fakes/FakeProcessContext.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/ProcessContext.h"
 #include "support/TempFolder.h"

@@ -8,7 +8,7 @@
 #include "OrvactlRun.h"
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
-#include "settings/SourceRoot.h"
+#include "support/SourceRoot.h"
 #include "support/TempFolder.h"
 #include "tools/orvactl/Orvactl.h"
 
@@ -33,7 +33,6 @@ std::wstring Bundle() {
 }
 
 TEST(StringsCommand, ShippedEnglishAndGerman_AreComplete) {
-    ASSERT_FALSE(Testing::SourceRoot().empty());
     for (const wchar_t* localeName : {L"en-US", L"de-DE"}) {
         const StringsRun run = Strings({L"--locale", localeName, L"--resource-folder", Bundle()});
         EXPECT_EQ(run.exitCode, kExitOk) << run.out.size();

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "plugin/AgentProtocol.h"
-#include "plugin/ControllerProtocol.h"
+#include "plugin/protocol/AgentProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
 #include "tools/sim/mailclient/ScenarioReport.h"
 #include "tools/sim/mailclient/SimulatedMailClient.h"
 #include "tools/sim/mailclient/SimulatorOptions.h"

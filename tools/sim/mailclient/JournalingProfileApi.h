@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "common_src/ZelCommon/ProfileApi.h"
-#include "common_src/fakes/FakeJournal.h"
+#include "support/fakes/platform/FakeJournal.h"
 
 namespace Orva::Sim {
 

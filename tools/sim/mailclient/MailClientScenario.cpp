@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "SimulatedMailClient.h"
-#include "plugin/ControllerProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
 
 namespace Orva::Sim {
 namespace {

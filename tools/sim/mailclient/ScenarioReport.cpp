@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "common_src/platform/WideFormat.h"
-#include "plugin/AgentProtocol.h"
-#include "plugin/ControllerProtocol.h"
+#include "plugin/protocol/AgentProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
 
 namespace Orva::Sim {
 namespace {

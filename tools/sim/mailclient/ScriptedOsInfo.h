@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "settings/OsInfo.h"
+#include "settings/probes/OsInfo.h"
 
 namespace Orva::Sim {
 

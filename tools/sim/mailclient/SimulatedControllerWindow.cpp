@@ -7,7 +7,7 @@
 #include <string>
 
 #include "common_src/platform/WideFormat.h"
-#include "plugin/ControllerProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
 
 namespace Orva::Sim {
 

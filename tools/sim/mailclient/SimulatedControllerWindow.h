@@ -8,10 +8,10 @@
 #include "ScriptedOsInfo.h"
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
-#include "common_src/fakes/FakePluginPorts.h"
-#include "common_src/fakes/FakeSystemPorts.h"
+#include "support/fakes/plugin/FakePluginPorts.h"
+#include "support/fakes/platform/FakeSystemPorts.h"
 #include "plugin/ORVA_WLMAApp.h"
-#include "plugin/ToolBarController.h"
+#include "plugin/controller/ToolBarController.h"
 
 namespace Orva::Sim {
 

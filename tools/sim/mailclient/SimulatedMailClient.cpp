@@ -6,8 +6,8 @@
 #include <span>
 
 #include "common_src/platform/WideFormat.h"
-#include "plugin/AgentProtocol.h"
-#include "plugin/ControllerProtocol.h"
+#include "plugin/protocol/AgentProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
 
 namespace Orva::Sim {
 

@@ -8,8 +8,8 @@
 #include "SimulatedControllerWindow.h"
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
-#include "plugin/AgentLink.h"
-#include "plugin/HostEventRelay.h"
+#include "plugin/agent/AgentLink.h"
+#include "plugin/host/HostEventRelay.h"
 #include "plugin/ORVA_WLMAApp.h"
 
 namespace Orva::Sim {

@@ -2,8 +2,8 @@
 
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
-#include "plugin/AgentProtocol.h"
-#include "plugin/ControllerProtocol.h"
+#include "plugin/protocol/AgentProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
 
 namespace Orva::Sim {
 

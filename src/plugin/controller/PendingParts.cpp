@@ -1,0 +1,79 @@
+#include "plugin/controller/PendingParts.h"
+
+namespace Orva::Plugin {
+
+void CPendingParts::Missing(const wchar_t* operation) {
+    if (m_reported.insert(operation).second) {
+        m_log.LogText(L"### %s is not part of this build yet", operation);
+    }
+}
+
+RibbonIds CPendingParts::BuildRibbonToolbar(bool) {
+    Missing(L"The ribbon");
+    return {};
+}
+
+void CPendingParts::SetOnOffCaption(bool) {
+    Missing(L"The ribbon");
+}
+
+void CPendingParts::EnableButtons(bool) {
+    Missing(L"The ribbon");
+}
+
+void CPendingParts::OnBuildUserInterface(uintptr_t, intptr_t) {
+    Missing(L"The classic toolbar band");
+}
+
+void CPendingParts::CreateDeferredObject() {
+    Missing(L"The classic toolbar band");
+}
+
+int CPendingParts::CreateSpamMailFolder(bool) {
+    Missing(L"The spam folder");
+    return 0;
+}
+
+void CPendingParts::ProcDeleteAllSpamMsg(uint64_t, uint64_t, bool) {
+    Missing(L"The spam folder");
+}
+
+void CPendingParts::PostCleanDeletedFolder() {
+    Missing(L"The spam folder");
+}
+
+void CPendingParts::OnFolderSelectionChanged(uint64_t) {
+    Missing(L"The spam folder");
+}
+
+int CPendingParts::CheckIsUnsupportedMailServer() {
+    Missing(L"The default-account inspection");
+    return 0;
+}
+
+void CPendingParts::OpenFilteringSheet() {
+    Missing(L"The filtering sheet");
+}
+
+void CPendingParts::OpenStatistics() {
+    Missing(L"The statistics dialog");
+}
+
+void CPendingParts::OpenOnlineHelp() {
+    Missing(L"The on-line help");
+}
+
+void CPendingParts::OpenAbout() {
+    Missing(L"The about box");
+}
+
+bool CPendingParts::ShowUnsupportedServerNotice() {
+    Missing(L"The unsupported-server notice");
+    return false;
+}
+
+void CPendingParts::ImportContacts() {
+    Missing(L"The contact import");
+}
+
+}  // namespace Orva::Plugin

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+
+#include "plugin/controller/ControllerParts.h"
+#include "settings/log/DebugLog.h"
+
+namespace Orva::Plugin {
+
+// Stands in for the parts the add-in does not have yet (ribbon, classic band, mail store,
+// account inspection, dialogs), so that the controller and its protocol run complete without
+// them. Each missing operation is logged the first time it is asked for; none pretends to
+// succeed: no ribbon ids, no spam folder, a supported account, no dialog.
+class CPendingParts final : public IRibbonCommands,
+                            public IClassicBand,
+                            public ISpamFolder,
+                            public IAccountCheck,
+                            public ICommandDialogs {
+public:
+    explicit CPendingParts(ZelCommon::Library::DebugLog& log) : m_log(log) {}
+
+    RibbonIds BuildRibbonToolbar(bool toolbarEnabled) override;
+    void SetOnOffCaption(bool enabled) override;
+    void EnableButtons(bool enable) override;
+
+    void OnBuildUserInterface(uintptr_t wParam, intptr_t lParam) override;
+    bool IsBuilt() const override { return false; }
+    bool Exists() const override { return false; }
+    void Refresh() override {}
+    void TearDown() override {}
+    bool HasDeferredObject() const override { return false; }
+    void CreateDeferredObject() override;
+
+    int CreateSpamMailFolder(bool force) override;
+    void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t messageId, bool all) override;
+    void PostCleanDeletedFolder() override;
+    void OnFolderSelectionChanged(uint64_t folderId) override;
+
+    int CheckIsUnsupportedMailServer() override;
+
+    void OpenFilteringSheet() override;
+    void OpenStatistics() override;
+    void OpenOnlineHelp() override;
+    void OpenAbout() override;
+    bool ShowUnsupportedServerNotice() override;
+    void ImportContacts() override;
+
+private:
+    void Missing(const wchar_t* operation);
+
+    ZelCommon::Library::DebugLog& m_log;
+    std::set<std::wstring> m_reported;
+};
+
+}  // namespace Orva::Plugin

@@ -1,0 +1,125 @@
+#include "plugin/controller/ToolBarController.h"
+
+#include <utility>
+
+#include "plugin/protocol/ControllerProtocol.h"
+
+namespace Orva::Plugin {
+
+CToolBarController::CToolBarController(ControllerPorts ports, ControllerParts parts)
+    : m_ports(ports), m_parts(parts), m_bTBEnable(ReadToolbarEnabled()) {}
+
+std::optional<intptr_t> CToolBarController::Dispatch(const ControllerMessageData& data) {
+    namespace M = ControllerMessage;
+    switch (data.message) {
+        case M::Create:
+            return OnCreate();
+        case M::Close:
+            OnClose();
+            return std::nullopt;
+        case M::CopyData:
+            return OnCopyData(data.copyDataId, data.copyData);
+        case M::Timer:
+            OnTimer();
+            return 0;
+        case M::BuildClassicUi:
+            m_parts.classic.OnBuildUserInterface(data.wParam, data.lParam);
+            return 0;
+        case M::TearDownClassicUi:
+            OnTearDownClassicUi();
+            return 0;
+        case M::HookMainWindow:
+            return OnHookOE(data.wParam);
+        case M::UnhookMainWindow:
+            return OnUnhookOE();
+        case M::Tick:
+            OnTick();
+            return 0;
+        case M::AgentReady:
+            OnAgentReady();
+            return 0;
+        case M::FolderSelected:
+            m_parts.spamFolder.OnFolderSelectionChanged(
+                (static_cast<uint64_t>(data.wParam & 0xFFFFFFFFu) << 32) |
+                static_cast<uint64_t>(static_cast<uintptr_t>(data.lParam) & 0xFFFFFFFFu));
+            return 0;
+        case M::ReQueryDefaultAccount:
+            return OnReQueryDefaultAccount(data.wParam, data.lParam);
+        case M::BuildUi:
+            return OnBuildUI();
+        case M::MailClientShutdown:
+            OnWLMShutdown();
+            return 0;
+        case M::ButtonClicked:
+            return OnClickRibbonButton(data.wParam, data.lParam);
+        case M::ImportContacts:
+            m_parts.dialogs.ImportContacts();
+            return 0;
+        default:
+            return std::nullopt;
+    }
+}
+
+intptr_t CToolBarController::OnCreate() {
+    m_ports.window.MakeTopMost();
+    if (m_ports.host.CreateInitObject()) {
+        Log(L"@@@ NktWLMailApi::WLMailApiInit! created");
+        m_ports.host.AdviseInitSink();
+    }
+    return 0;
+}
+
+template <class Unadvise>
+void CToolBarController::UnadviseLogged(Unadvise unadvise) {
+    try {
+        unadvise();
+    } catch (const HostCallError& error) {
+        Log(L"!!! CWLMShadow::OnClose() WLMApi Event Sink excpetion:[%S]", error.what());
+    } catch (...) {
+        Log(L"xxx WLMApi Event Sink Fail!");
+    }
+}
+
+void CToolBarController::OnWLMShutdown() {
+    Log(L"@@@ %s  IN", L"CToolBarWnd::OnWLMShutdown");
+    UnadviseLogged([this] { m_ports.host.UnadviseApiSink(); });
+    m_parts.spamFolder.PostCleanDeletedFolder();
+    m_ports.host.ShutdownGdiplus();
+    m_ports.shutdownDone.Set();
+    Log(L"@@@ %s  OUT", L"CToolBarWnd::OnWLMShutdown");
+}
+
+void CToolBarController::OnClose() {
+    Log(L"@@@ %s  IN", L"CToolBarWnd::OnClose");
+    // The shut-down handling may still be running when the host posts the close: give it time,
+    // but close anyway when it never finishes.
+    if (m_ports.shutdownDone.Wait(kShutdownWaitMilliseconds)) {
+        Log(L"CToolBarWnd::OnClose() wait for on shutdown success");
+    } else {
+        Log(L"CToolBarWnd::OnClose() wait for on shutdown failed");
+    }
+    UnadviseLogged([this] { m_ports.host.UnadviseInitSink(); });
+    m_ports.host.ReleaseInitObject();
+    m_ports.host.UninitializeCom();
+    m_parts.strings.Release();
+}
+
+void CToolBarController::OnTearDownClassicUi() {
+    m_mainWindowAttached = false;
+    m_parts.classic.TearDown();
+}
+
+void CToolBarController::OnTick() {
+    ++m_ticks;
+    if (m_ticks >= kTicksBeforeDeferredBand && !m_parts.classic.HasDeferredObject()) {
+        m_parts.classic.CreateDeferredObject();
+        m_parts.classic.Refresh();
+    }
+}
+
+void CToolBarController::OnAgentReady() {
+    Log(L"WLM Shadow is OK now!");
+    m_agentReady = true;
+}
+
+}  // namespace Orva::Plugin

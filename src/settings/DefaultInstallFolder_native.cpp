@@ -1,9 +1,0 @@
-#include "settings/StringLoaderServices.h"
-
-namespace Orva::Settings {
-
-std::wstring DefaultInstallFolder() {
-    return L"/opt/Halvion/Corelane/plugin/";
-}
-
-}  // namespace Orva::Settings

@@ -1,0 +1,91 @@
+#include "settings/localisation/StringIds.h"
+
+namespace Orva::Settings {
+namespace {
+
+// Grouped by where the text appears.
+constexpr std::wstring_view kIds[] = {
+    // Product identity, used by the placeholders and the ribbon group.
+    L"IDS_PRODUCT_NAME",
+    L"IDS_CORP_NAME",
+    L"IDS_SPAM_NAME",
+    // Ribbon and classic toolbar.
+    L"IDS_POPUP_CAPTION",
+    L"IDS_ZEL_TOOLTIP",
+    L"IDS_STRING_FILTERING_SHEET",
+    L"IDS_STATIST_CAPTION",
+    L"IDS_DISABLE_CAPTION",
+    L"IDS_ENABLE_CAPTION",
+    L"IDS_HELP_CAPTION",
+    L"IDS_ABOUT_CAPTION",
+    L"IDS_RPTSPAM_CAPTION",
+    L"IDS_RPTSPAM_TOOLTIP",
+    L"IDS_RPTFP_CAPTION",
+    L"IDS_RPTFP_TOOLTIP",
+    L"IDS_QUILLON_HALVION_HOMEWEB",
+    // Mail store and account checks.
+    L"IDS_QUILLON_SPAMMAIL_FOLDERNAME",
+    L"IDS_CAPTION_UNSUPPORTED",
+    L"IDS_MSG_UNSUPPORTED",
+    // Sender lists.
+    L"IDS_HEADER_ADDR",
+    L"IDS_HEADER_SENDERNAME",
+    L"IDS_ADDAPPROVESENDER_CAPTION",
+    L"IDS_ADDBLOCKSENDER_CAPTION",
+    L"IDS_EDITAPPROVESENDER_CAPTION",
+    L"IDS_EDITBLOCKSENDER_CAPTION",
+    L"IDS_APPROVELISTCONLICT_MSG",
+    L"IDS_BLOCKLISTCONLICT_MSG",
+    L"IDS_LISTFULL_MSG",
+    L"IDS_LISTEXISTED_MSG",
+    L"IDS_REMOVEADDR_MSG",
+    L"IDS_TEXT_TOO_LONG_MSG",
+    L"IDS_WRONG_EMAILADDR_MSG",
+    L"IDS_MSG_APPLYFIRST",
+    L"IDS_CAP_CONFIMATION",
+    L"IDS_CONFIRMATION_CAPTION",
+    L"IDS_WARNING_CAPTION",
+    // Filtering sheet and its pages.
+    L"IDS_HELP",
+    L"IDS_OK",
+    L"IDS_CANCEL",
+    L"IDS_TOOLTIP_ADULT",
+    L"IDS_TOOLTIP_COMMERCIAL",
+    L"IDS_TOOLTIP_FINANCIAL",
+    L"IDS_TOOLTIP_HEALTH",
+    L"IDS_TOOLTIP_OTHER",
+    L"IDS_TOOLTIP_RACIAL",
+    L"IDS_TOOLTIP_SPIRITUAL",
+    L"IDS_TOOLTIP_LEVELHIGH",
+    L"IDS_TOOLTIP_LEVELMEDIUM",
+    L"IDS_TOOLTIP_LEVELLOW",
+    L"IDS_TOOLTIP_DELETENOW",
+    // Statistics.
+    L"IDS_DLG_STAT_GENERAL_MESSAGE",
+    L"IDS_DLG_STAT_GENERAL_DETECT",
+    L"IDS_DLG_STAT_GENERAL_REPORT_SPAM",
+    L"IDS_DLG_STAT_CHART_ERR",
+    L"IDS_WARN_RESET_STATISTICS",
+    // Updates.
+    L"IDS_STR_NOT_UPDATE_YET",
+    L"IDS_UP_TO_DATE",
+    L"IDS_OUT_OF_DATE",
+    // About box.
+    L"IDD_ABOUT_IDC_STATIC_TITLE",
+    L"IDC_STATIC_COPYRIGHT",
+    L"IDS_ABOUT_WARNING",
+    // Fonts: face names and point sizes.
+    L"IDS_ORVA_SYSTEM_FONT",
+    L"IDS_INTERMEDIATE_FONT_SIZE",
+    L"IDS_WTC_YES_FONT",
+    L"IDS_CUSTOM_LEVEL_FONT_SIZE",
+    L"IDS_STATISTIC_DLG_FONT_SIZE",
+};
+
+}  // namespace
+
+std::span<const std::wstring_view> AddinStringIds() {
+    return kIds;
+}
+
+}  // namespace Orva::Settings

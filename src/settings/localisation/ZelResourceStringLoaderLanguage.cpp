@@ -1,0 +1,105 @@
+#include "common_src/ZelCommon/IniFile.h"
+#include "common_src/ZelCommon/StorageException.h"
+#include "common_src/platform/Path.h"
+#include "common_src/platform/WideFormat.h"
+#include "settings/localisation/ZelResourceStringLoader.h"
+
+using ZelCommon::Exception::CatchThrown;
+using ZelCommon::Storage::Exception;
+
+std::wstring ZelResourceStringLoader::SystemLocaleName() {
+    return m_services.locale.LcidToLocaleName(m_services.locale.SystemDefaultLcid());
+}
+
+// An id the map does not list keeps the system's own locale name, so that the primary-language
+// fall-back still applies to it.
+std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& resourceFolder,
+                                                          const std::wstring& localeName) {
+    const std::wstring mapPath = ZelCommon::Path::ChildFile(resourceFolder, kLanguageMapFileName);
+    if (!ZelCommon::Path::FileExists(mapPath)) {
+        return {};
+    }
+    Log(L"Using LanguageMap.ini to perform language mapping, path: [%s]", mapPath);
+    std::wstring mapped;
+    CatchThrown<Exception>(
+        [&] {
+            ZelCommon::Storage::IniFile map(m_services.profile);
+            map.Open(mapPath, std::wstring(kLanguageMapSection), 0);
+            const std::wstring key =
+                ZelCommon::Text::Format(L"%u", m_services.locale.SystemDefaultLcid());
+            mapped = map.GetString(key, std::wstring());
+        },
+        [this](const Exception& failure) { LogStorageFailure(failure); });
+    if (!mapped.empty()) {
+        Log(L"<LanguageMap.ini> Matched Locale Name from [%s] to [%s]", localeName, mapped);
+    }
+    return mapped;
+}
+
+std::wstring ZelResourceStringLoader::MapPrimaryLangID() {
+    const uint16_t primary =
+        ZelCommon::Platform::PrimaryLanguageOf(m_services.locale.SystemDefaultLcid());
+    std::wstring name = m_services.locale.LcidToLocaleName(
+        ZelCommon::Platform::DefaultLcidOfPrimaryLanguage(primary));
+    if (name.empty()) {
+        name = kDefaultLocale;
+    }
+    Log(L"Primary language mapped result: [%s]", name);
+    return name;
+}
+
+ZelResourceStringLoader::LanguageChoice ZelResourceStringLoader::ChooseLanguage(
+    const std::wstring& resourceFolder,
+    const std::function<std::wstring(const std::wstring&)>& pathOf,
+    const std::function<bool(const std::wstring&)>& exists, const SearchTexts& texts) {
+    const auto present = [&exists](const LanguageChoice& choice) {
+        // Without a locale name the path would name the resource folder itself.
+        return !choice.localeName.empty() && exists(choice.path);
+    };
+    LanguageChoice choice;
+    choice.localeName = SystemLocaleName();
+    std::wstring mapped = LanguageMapOverride(resourceFolder, choice.localeName);
+    if (!mapped.empty()) {
+        choice.localeName = std::move(mapped);
+    }
+    choice.path = pathOf(choice.localeName);
+    if (!present(choice)) {
+        if (!texts.startMapping.empty()) {
+            Log(texts.startMapping, choice.localeName, choice.path);
+        }
+        choice.localeName = MapPrimaryLangID();
+        choice.path = pathOf(choice.localeName);
+        if (!present(choice)) {
+            Log(texts.notSupported, choice.localeName, choice.path);
+            choice.localeName = kDefaultLocale;
+            choice.path = pathOf(choice.localeName);
+            Log(texts.usingDefault, choice.localeName, choice.path);
+        }
+    }
+    choice.found = present(choice);
+    return choice;
+}
+
+std::wstring ZelResourceStringLoader::GetResFolderByAutoDetectLanguage() {
+    try {
+        const std::wstring resourceFolder = GetResourcePath();
+        const auto folderOf = [&resourceFolder](const std::wstring& locale) {
+            return ZelCommon::Path::ChildFolder(resourceFolder, locale);
+        };
+        const LanguageChoice choice = ChooseLanguage(
+            resourceFolder, folderOf, ZelCommon::Path::FolderExists,
+            SearchTexts{L"Start mapping primary language ID due to <%s> resource folder is not "
+                        L"existed: [%s]",
+                        L"<%s> Language not support!!\n Mapped primary language, but still not "
+                        L"existed: [%s]",
+                        L"Using default language <%s>: [%s]"});
+        if (!choice.found) {
+            Log(L"*** Error occurred!! Resource folder is not existed: [%s]", choice.path);
+            return {};
+        }
+        Log(L"Lang: [%s], Resource Folder: [%s]", choice.localeName, choice.path);
+        return choice.path;
+    } catch (...) {
+        return {};
+    }
+}

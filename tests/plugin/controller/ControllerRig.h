@@ -1,0 +1,170 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeJournal.h"
+#include "support/fakes/plugin/FakePluginPorts.h"
+#include "support/fakes/platform/FakeProcessContext.h"
+#include "support/fakes/ZelCommon/FakeProfileApi.h"
+#include "support/fakes/platform/FakeSystemPorts.h"
+#include "support/fakes/platform/FakeWindowMessaging.h"
+#include "support/fakes/platform/JournalDebuggerOutput.h"
+#include "plugin/agent/AgentLink.h"
+#include "plugin/protocol/AgentProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
+#include "plugin/controller/ToolBarController.h"
+#include "settings/log/DebugLog.h"
+#include "settings/probes/OsInfo.h"
+#include "settings/SettingsStore.h"
+#include "support/TempFolder.h"
+
+namespace Orva::Testing {
+
+using ZelCommon::Fakes::JournalDebuggerOutput;
+using ZelCommon::Fakes::JournalPlainDebugger;
+
+class FakeOsInfo final : public Orva::Settings::IOsInfo {
+public:
+    bool QueryVersion(Orva::Settings::OsVersionRecord& record) override {
+        record.platformId = 2;
+        record.majorVersion = majorVersion;
+        return true;
+    }
+    uint16_t NativeProcessorArchitecture() override { return 0; }
+    int32_t ServerR2Metric() override { return 0; }
+
+    uint32_t majorVersion = 6;
+};
+
+inline std::wstring LogEntry(const std::wstring& text) {
+    return L"log " + text;
+}
+
+inline std::wstring AgentEntry(const wchar_t* delivery, uint32_t message, uintptr_t wParam = 0,
+                               intptr_t lParam = 0) {
+    return std::wstring(delivery) + L" " + std::wstring(Plugin::kAgentWindowTitle) + L" " +
+           std::to_wstring(message) + L" " + std::to_wstring(wParam) + L" " +
+           std::to_wstring(lParam);
+}
+
+// What a test puts in place of the rig's own fakes (the real window calls, messaging or
+// hook under Wine, a part that fails).
+struct ControllerReplacements {
+    ZelCommon::Platform::IWindowMessaging* messaging = nullptr;
+    ZelCommon::Platform::IWindowProcedureHook* hook = nullptr;
+    Plugin::IControllerWindow* window = nullptr;
+    Plugin::ISpamFolder* spamFolder = nullptr;
+    Plugin::CAgentLink* agent = nullptr;
+};
+
+// Every port and part of the controller as a recording fake, all writing into one journal.
+struct ControllerRig {
+    ControllerRig() {
+        log.OpenLog(folder.File(L"plugin.log"));
+        messaging.SetJournal(&journal);
+        clock.SetJournal(&journal);
+        launcher.SetJournal(&journal);
+        shutdownDone.SetJournal(&journal);
+        hook.SetJournal(&journal);
+        shell.SetJournal(&journal);
+        window.SetJournal(&journal);
+        host.SetJournal(&journal);
+        ribbon.SetJournal(&journal);
+        classic.SetJournal(&journal);
+        spamFolder.SetJournal(&journal);
+        account.SetJournal(&journal);
+        dialogs.SetJournal(&journal);
+        strings.SetJournal(&journal);
+        controllerWindow = messaging.AddWindow(std::wstring(Plugin::kControllerWindowTitle),
+                                               std::wstring(Plugin::kControllerClassName));
+    }
+
+    std::unique_ptr<Plugin::CToolBarController> MakeController(
+        const ControllerReplacements& with = {}) {
+        return std::make_unique<Plugin::CToolBarController>(
+            Plugin::ControllerPorts{with.messaging ? *with.messaging : messaging, clock,
+                                    shutdownDone, with.hook ? *with.hook : hook, shell, keyboard,
+                                    process, plainDebugger, os, with.window ? *with.window : window,
+                                    host, version, log},
+            Plugin::ControllerParts{ribbon, classic,
+                                    with.spamFolder ? *with.spamFolder : spamFolder, account,
+                                    dialogs, strings, settings, with.agent ? *with.agent : agent});
+    }
+
+    // Built on first use, so that a test can prepare the settings it reads when created.
+    Plugin::CToolBarController& Controller() {
+        if (!controller) {
+            controller = MakeController();
+            controller->SetWindow(controllerWindow);
+        }
+        return *controller;
+    }
+
+    std::optional<intptr_t> Dispatch(uint32_t message, uintptr_t wParam = 0, intptr_t lParam = 0) {
+        return Controller().Dispatch({message, wParam, lParam, 0, {}});
+    }
+
+    ZelCommon::Platform::WindowHandle AddAgent(unsigned missedLookups = 0) {
+        return messaging.AddWindow(std::wstring(Plugin::kAgentWindowTitle), L"", missedLookups);
+    }
+    ZelCommon::Platform::WindowHandle AddSuite() {
+        return messaging.AddWindow(std::wstring(Plugin::kSuiteWindowTitle));
+    }
+    void SetEnableTBar(const std::wstring& value) {
+        profile.Set(L"Antispam", L"EnableTBar", value);
+    }
+
+    std::vector<std::wstring> Journal() const { return journal.Entries(); }
+    std::vector<std::wstring> LogLines() const {
+        std::vector<std::wstring> lines;
+        for (const std::wstring& entry : journal.Entries()) {
+            if (entry.starts_with(L"log ")) {
+                lines.push_back(entry.substr(4));
+            }
+        }
+        return lines;
+    }
+
+    TempFolder folder;
+    ZelCommon::Fakes::FakeJournal journal;
+    ZelCommon::Fakes::FakeClock logClock;
+    ZelCommon::Fakes::FakeProcessContext process;
+    JournalDebuggerOutput debugger{journal};
+    ZelCommon::Library::DebugLog log{logClock, process, debugger};
+
+    ZelCommon::Fakes::FakeWindowMessaging messaging;
+    ZelCommon::Fakes::FakeClock clock;
+    ZelCommon::Fakes::FakeProcessLauncher launcher;
+    ZelCommon::Fakes::FakeEvent shutdownDone;
+    ZelCommon::Fakes::FakeWindowProcedureHook hook;
+    ZelCommon::Fakes::FakeShellOpen shell;
+    ZelCommon::Fakes::FakeKeyboard keyboard;
+    JournalPlainDebugger plainDebugger{journal};
+    FakeOsInfo os;
+    ZelCommon::Fakes::FakeControllerWindow window;
+    ZelCommon::Fakes::FakeHostObjects host;
+    ZelCommon::Fakes::FakeMailClientVersion version{16};
+
+    ZelCommon::Fakes::FakeRibbonCommands ribbon;
+    ZelCommon::Fakes::FakeClassicBand classic;
+    ZelCommon::Fakes::FakeSpamFolder spamFolder;
+    ZelCommon::Fakes::FakeAccountCheck account;
+    ZelCommon::Fakes::FakeCommandDialogs dialogs;
+    ZelCommon::Fakes::FakeLocalisedStrings strings;
+
+    ZelCommon::Fakes::FakeProfileApi profile;
+    Orva::Settings::SettingsStore settings{
+        profile, Orva::Settings::SettingsFiles{L"C:\\Addin\\ORVA_WLM.ini",
+                                               L"C:\\Data\\Users\\Default\\ORVA_WLM.ini",
+                                               L"C:\\Data\\ORVA_version.ini", false}};
+    Plugin::CAgentLink agent{messaging, clock, launcher, log, L"C:\\Addin\\"};
+    std::unique_ptr<Plugin::CToolBarController> controller;
+    ZelCommon::Platform::WindowHandle controllerWindow = 0;
+};
+
+}  // namespace Orva::Testing

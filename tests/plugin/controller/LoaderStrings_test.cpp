@@ -1,0 +1,39 @@
+#include "plugin/controller/LoaderStrings.h"
+
+#include <gtest/gtest.h>
+
+#include "settings/localisation/StringLoaderFixture.h"
+
+namespace {
+
+using Orva::Plugin::CLoaderStrings;
+
+class LoaderStrings : public Orva::Testing::StringLoaderTest {};
+
+TEST_F(LoaderStrings, Load_ReadsTheProductTable) {
+    WriteTable(L"en-US", L"IDS_QUILLON_HALVION_HOMEWEB", L"http://home.example/");
+    ZelResourceStringLoader loader(Services());
+    CLoaderStrings strings(loader);
+    EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"http://home.example/");
+    EXPECT_EQ(loader.Section(), L"ORVA_WLM");
+    EXPECT_EQ(strings.Load(L"IDS_MISSING"), L"");
+    EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"http://home.example/");
+}
+
+TEST_F(LoaderStrings, NoTable_GivesEmptyTexts) {
+    ZelResourceStringLoader loader(Services());
+    CLoaderStrings strings(loader);
+    EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"");
+}
+
+TEST_F(LoaderStrings, Release_ClosesTheTableAndTheNextLoadReopensIt) {
+    WriteTable(L"en-US", L"IDS_PRODUCT_NAME", L"ORVA");
+    ZelResourceStringLoader loader(Services());
+    CLoaderStrings strings(loader);
+    ASSERT_EQ(strings.Load(L"IDS_PRODUCT_NAME"), L"ORVA");
+    strings.Release();
+    EXPECT_EQ(loader.Section(), L"");
+    EXPECT_EQ(strings.Load(L"IDS_PRODUCT_NAME"), L"ORVA");
+}
+
+}  // namespace

@@ -1,0 +1,283 @@
+#include "plugin/controller/ToolBarWnd_win.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "ControllerRig.h"
+#include "common_src/platform/Clock.h"
+#include "common_src/platform/Path.h"
+#include "common_src/platform/ProcessLauncher.h"
+#include "common_src/platform/WindowProcedureHook.h"
+#include "support/FileBytes.h"
+#include "support/MessagePump_win.h"
+#include "support/ProgramFolder.h"
+#include "support/TempFolder.h"
+#include "support/TestWindow_win.h"
+
+namespace Orva::Plugin {
+namespace {
+
+using Testing::ControllerRig;
+
+// A spam folder whose delete-all fails with an exception.
+class ThrowingSpamFolder final : public ISpamFolder {
+public:
+    int CreateSpamMailFolder(bool) override { return 1; }
+    void ProcDeleteAllSpamMsg(uint64_t, uint64_t, bool) override {
+        throw std::runtime_error("store gone");
+    }
+    void PostCleanDeletedFolder() override {}
+    void OnFolderSelectionChanged(uint64_t) override {}
+};
+
+// The controller window over the rig's fakes; messaging and the main-window hook are the
+// test's choice, since some tests need the real ones.
+struct WindowRig : ControllerRig {
+    std::unique_ptr<CToolBarWnd> Open(ZelCommon::Platform::IWindowMessaging& messagingPort,
+                                      ZelCommon::Platform::IWindowProcedureHook& hookPort,
+                                      ISpamFolder& spamFolderPart,
+                                      CAgentLink* agentLink = nullptr) {
+        return CToolBarWnd::Create(
+            ::GetModuleHandleW(nullptr),
+            [&](IControllerWindow& ownWindow) {
+                return MakeController(
+                    {&messagingPort, &hookPort, &ownWindow, &spamFolderPart, agentLink});
+            },
+            log);
+    }
+    std::unique_ptr<CToolBarWnd> Open() { return Open(messaging, hook, spamFolder); }
+
+    bool Journaled(const std::wstring& entry) const {
+        const auto entries = Journal();
+        return std::find(entries.begin(), entries.end(), entry) != entries.end();
+    }
+    std::ptrdiff_t JournaledStartingWith(const std::wstring& start) const {
+        const auto entries = Journal();
+        return std::count_if(entries.begin(), entries.end(),
+                             [&](const std::wstring& entry) { return entry.starts_with(start); });
+    }
+};
+
+LRESULT SendCopyData(HWND window, ULONG_PTR id, const void* bytes, DWORD size) {
+    COPYDATASTRUCT record{id, size, const_cast<void*>(bytes)};
+    return ::SendMessageW(window, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&record));
+}
+
+const std::wstring kClass(kControllerClassName);
+
+TEST(ToolBarWndWin, Create_MakesTheTopMostPopupThatEveryoneFindsByClass) {
+    WindowRig rig;
+    {
+        auto wnd = rig.Open();
+        ASSERT_NE(wnd, nullptr);
+
+        EXPECT_EQ(::FindWindowW(kClass.c_str(), nullptr), wnd->Handle());
+        wchar_t title[64] = {};
+        ::GetWindowTextW(wnd->Handle(), title, 64);
+        EXPECT_EQ(std::wstring(title), std::wstring(kControllerWindowTitle));
+        // Windows adds WS_CLIPSIBLINGS to every top-level window.
+        EXPECT_EQ(static_cast<DWORD>(::GetWindowLongW(wnd->Handle(), GWL_STYLE)) &
+                      ~static_cast<DWORD>(WS_CLIPSIBLINGS),
+                  kControllerWindowStyle);
+        EXPECT_NE(::GetWindowLongW(wnd->Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+        EXPECT_FALSE(::IsWindowVisible(wnd->Handle()));
+        EXPECT_TRUE(rig.Journaled(L"host CreateInitObject"));
+        // A second controller in the same process is refused.
+        EXPECT_EQ(rig.Open(), nullptr);
+    }
+    WNDCLASSW unused{};
+    EXPECT_EQ(::FindWindowW(kClass.c_str(), nullptr), nullptr);
+    EXPECT_FALSE(::GetClassInfoW(::GetModuleHandleW(nullptr), kClass.c_str(), &unused));
+}
+
+TEST(ToolBarWndWin, CopyData_OnlyAWholeDeleteAllRecordWithItsFlagDeletes) {
+    WindowRig rig;
+    auto wnd = rig.Open();
+    ASSERT_NE(wnd, nullptr);
+    uint8_t record[17] = {2, 0, 0, 0, 1, 0, 0, 0, 4, 0, 0, 0, 3, 0, 0, 0, 0};
+
+    EXPECT_EQ(SendCopyData(wnd->Handle(), 1078, record, 3), 0);
+    EXPECT_EQ(SendCopyData(wnd->Handle(), 1078, record, 17), 0);
+    EXPECT_EQ(SendCopyData(wnd->Handle(), 1078, nullptr, 17), 0);
+    record[16] = 1;
+    EXPECT_EQ(SendCopyData(wnd->Handle(), 1076, record, 17), 0);
+    EXPECT_EQ(rig.JournaledStartingWith(L"store delete-all"), 0);
+
+    EXPECT_EQ(SendCopyData(wnd->Handle(), 1078, record, 17), 0);
+    EXPECT_TRUE(rig.Journaled(L"store delete-all 0x100000002 0x300000004 1"));
+}
+
+TEST(ToolBarWndWin, AFailingHandler_IsLoggedAndTheWindowLivesOn) {
+    WindowRig rig;
+    ThrowingSpamFolder throwing;
+    auto wnd = rig.Open(rig.messaging, rig.hook, throwing);
+    ASSERT_NE(wnd, nullptr);
+    const uint8_t record[17] = {2, 0, 0, 0, 1, 0, 0, 0, 4, 0, 0, 0, 3, 0, 0, 0, 1};
+
+    EXPECT_EQ(SendCopyData(wnd->Handle(), 1078, record, 17), 0);
+
+    EXPECT_TRUE(wnd->Exists());
+    EXPECT_TRUE(rig.Journaled(L"log xxx CToolBarWnd: message 74 failed: store gone"));
+}
+
+TEST(ToolBarWndWin, Close_RunsTheControllersCloseAndDestroysTheWindow) {
+    WindowRig rig;
+    rig.shutdownDone.Set();
+    auto wnd = rig.Open();
+    ASSERT_NE(wnd, nullptr);
+
+    wnd->SendClose();
+
+    EXPECT_FALSE(wnd->Exists());
+    EXPECT_EQ(::FindWindowW(kClass.c_str(), nullptr), nullptr);
+    EXPECT_TRUE(rig.Journaled(L"log CToolBarWnd::OnClose() wait for on shutdown success"));
+    wnd->SetMailClientWindow(0x1234);  // a late host call after the close changes nothing
+}
+
+// The mail client's main window: its own procedure counts what reaches it.
+int g_mainWindowMessages = 0;
+bool g_mainWindowClosed = false;
+LRESULT CALLBACK MainWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_USER + 7) {
+        ++g_mainWindowMessages;
+        return 77;
+    }
+    if (message == WM_CLOSE) {
+        g_mainWindowClosed = true;
+        return 0;
+    }
+    return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+TEST(ToolBarWndWin, HookedMainWindow_KeepsWorkingAndIsGivenBackOnItsClose) {
+    g_mainWindowMessages = 0;
+    g_mainWindowClosed = false;
+    WindowRig rig;
+    auto hook =
+        ZelCommon::Platform::CreateWindowProcedureHook(CToolBarWnd::MainWindowHookProcedure());
+    auto wnd = rig.Open(ZelCommon::Platform::SystemWindowMessaging(), *hook, rig.spamFolder);
+    ASSERT_NE(wnd, nullptr);
+    Testing::TestWindow main(L"Outlook Express Browser Class", L"Mail", MainWindowProcedure);
+    const auto original = ::GetWindowLongPtrW(main.get(), GWLP_WNDPROC);
+
+    EXPECT_EQ(::SendMessageW(wnd->Handle(), 1058, reinterpret_cast<WPARAM>(main.get()), 0), 1);
+    EXPECT_EQ(::SendMessageW(wnd->Handle(), 1058, reinterpret_cast<WPARAM>(main.get()), 0), 1);
+    EXPECT_EQ(static_cast<ZelCommon::Platform::WindowProcedure>(
+                  ::GetWindowLongPtrW(main.get(), GWLP_WNDPROC)),
+              CToolBarWnd::MainWindowHookProcedure());
+    EXPECT_EQ(::SendMessageW(main.get(), WM_USER + 7, 0, 0), 77);
+    EXPECT_EQ(g_mainWindowMessages, 1);
+
+    ::SendMessageW(main.get(), WM_CLOSE, 0, 0);
+
+    EXPECT_TRUE(g_mainWindowClosed);
+    EXPECT_EQ(::GetWindowLongPtrW(main.get(), GWLP_WNDPROC), original);
+    EXPECT_TRUE(rig.Journaled(L"classic teardown"));
+    EXPECT_TRUE(rig.Journaled(L"log @@@ WndProc Set back OK"));
+}
+
+TEST(ToolBarWndWin, ControllerGoneWhileHooked_GivesTheMainWindowItsProcedureBack) {
+    WindowRig rig;
+    auto hook =
+        ZelCommon::Platform::CreateWindowProcedureHook(CToolBarWnd::MainWindowHookProcedure());
+    Testing::TestWindow main(L"Outlook Express Browser Class", L"Mail", MainWindowProcedure);
+    const auto original = ::GetWindowLongPtrW(main.get(), GWLP_WNDPROC);
+    {
+        auto wnd = rig.Open(ZelCommon::Platform::SystemWindowMessaging(), *hook, rig.spamFolder);
+        ASSERT_NE(wnd, nullptr);
+        ASSERT_EQ(::SendMessageW(wnd->Handle(), 1058, reinterpret_cast<WPARAM>(main.get()), 0), 1);
+    }
+    EXPECT_EQ(::GetWindowLongPtrW(main.get(), GWLP_WNDPROC), original);
+    EXPECT_EQ(::SendMessageW(main.get(), WM_USER + 7, 0, 0), 77);
+}
+
+// The real agent, started by the controller's agent link from beside this program, recording
+// what reaches it into a file of the test's.
+class RealAgentTest : public testing::Test {
+protected:
+    RealAgentTest() {
+        Testing::CloseWindowsTitled(kAgentTitle);
+        ::SetEnvironmentVariableW(L"ORVA_SIM_AGENT_RECORD", record.c_str());
+    }
+    ~RealAgentTest() override {
+        Testing::CloseWindowsTitled(kAgentTitle);
+        ::SetEnvironmentVariableW(L"ORVA_SIM_AGENT_RECORD", nullptr);
+    }
+
+    std::unique_ptr<CToolBarWnd> OpenWithAgent() {
+        auto wnd =
+            rig.Open(ZelCommon::Platform::SystemWindowMessaging(), *hook, rig.spamFolder, &agent);
+        agent.LaunchShadow();
+        agentWindow = Testing::WaitForWindowTitled(kAgentTitle);
+        return wnd;
+    }
+    bool RecordShows(const std::string& lines) {
+        return Testing::PumpMessagesUntil(
+            [&] { return Testing::ReadFileBytes(record).find(lines) != std::string::npos; });
+    }
+
+    const std::wstring kAgentTitle{kAgentWindowTitle};
+    Testing::TempFolder folder;
+    std::wstring record = folder.File(L"agent.txt");
+    WindowRig rig;
+    std::unique_ptr<ZelCommon::Platform::IWindowProcedureHook> hook =
+        ZelCommon::Platform::CreateWindowProcedureHook(CToolBarWnd::MainWindowHookProcedure());
+    CAgentLink agent{
+        ZelCommon::Platform::SystemWindowMessaging(), ZelCommon::Platform::SystemClock(),
+        ZelCommon::Platform::SystemProcessLauncher(), rig.log, Testing::ProgramFolder()};
+    HWND agentWindow = nullptr;
+};
+
+TEST_F(RealAgentTest, ReportSpamAndNotSpamClicks_ReachTheAgentUnlessTheSuiteIsBusy) {
+    auto wnd = OpenWithAgent();
+    ASSERT_NE(wnd, nullptr);
+    ASSERT_NE(agentWindow, nullptr);
+    ASSERT_EQ(::SendMessageW(wnd->Handle(), 4029, 0, 0), 0);  // the ribbon gets its ids
+
+    ::PostMessageW(wnd->Handle(), 4031, 101, 108);
+    ::PostMessageW(wnd->Handle(), 4031, 101, 109);
+    EXPECT_TRUE(RecordShows("posted 1041 0 0\nposted 1042 0 0\n"));
+
+    {
+        Testing::TestWindow suite(L"OrvaSuiteAgentStandIn", std::wstring(kSuiteWindowTitle).c_str(),
+                                  ::DefWindowProcW);
+        ::PostMessageW(wnd->Handle(), 4031, 101, 108);
+        Testing::PumpMessagesUntil([] { return false; }, 300);
+    }
+    ::PostMessageW(wnd->Handle(), 4031, 101, 109);
+    EXPECT_TRUE(RecordShows("posted 1041 0 0\nposted 1042 0 0\nposted 1042 0 0\n"));
+}
+
+TEST_F(RealAgentTest, UnsupportedMailClient_StopsTheAgent) {
+    rig.version.Set(17);
+    auto wnd = OpenWithAgent();
+    ASSERT_NE(wnd, nullptr);
+    ASSERT_NE(agentWindow, nullptr);
+
+    EXPECT_EQ(::SendMessageW(wnd->Handle(), 4029, 0, 0), 0);
+
+    EXPECT_TRUE(RecordShows("posted 1069 0 0\n"));
+    EXPECT_TRUE(Testing::PumpMessagesUntil([&] { return !::IsWindow(agentWindow); }));
+    EXPECT_TRUE(rig.Journaled(L"log !!! Not support WLM version"));
+}
+
+TEST_F(RealAgentTest, MailClientShutdown_ClosesTheAgentThenTheController) {
+    auto wnd = OpenWithAgent();
+    ASSERT_NE(wnd, nullptr);
+    ASSERT_NE(agentWindow, nullptr);
+    CHostEventRelay relay(ZelCommon::Platform::SystemWindowMessaging(), rig.log);
+
+    relay.OnShutdown();  // what the init sink does when the host shuts down
+
+    EXPECT_TRUE(RecordShows("sent 16 0 0\n"));
+    EXPECT_TRUE(Testing::PumpMessagesUntil([&] { return !wnd->Exists(); }));
+    EXPECT_TRUE(rig.Journaled(L"log CWLMApiInitEventSink::OnShutdownWLMAPI Done!"));
+    EXPECT_TRUE(rig.Journaled(L"log CToolBarWnd::OnClose() wait for on shutdown success"));
+}
+
+}  // namespace
+}  // namespace Orva::Plugin

@@ -1,0 +1,287 @@
+#include <shlobj.h>
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cwchar>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <type_traits>
+
+#include "common_src/platform/Path.h"
+#include "common_src/platform/TextCodec.h"
+#include "common_src/platform/UniqueHandle_win.h"
+#include "plugin/protocol/AgentProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
+#include "plugin/host/FakeHostObject_win.h"
+#include "support/FileBytes.h"
+#include "support/MessagePump_win.h"
+#include "support/ProgramFolder.h"
+#include "support/TempFolder.h"
+#include "tools/sim/agent/SimAgentProtocol.h"
+
+namespace Orva::Plugin {
+namespace {
+
+struct LibraryCloser {
+    void operator()(HMODULE module) const { ::FreeLibrary(module); }
+};
+using UniqueModule = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
+
+template <class Function>
+Function ExportAs(FARPROC address) {
+    // Going through void(*)() is the documented way to silence the function-type cast warning.
+    return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(address));
+}
+
+// The debug log's folder for the identity Wine has ("Default").
+std::filesystem::path LogFolder() {
+    wchar_t common[MAX_PATH] = {};
+    ::SHGetSpecialFolderPathW(nullptr, common, CSIDL_COMMON_APPDATA, FALSE);
+    return std::filesystem::path(common) / L"Halvion" / L"WLM" / L"Users" / L"Default" / L"log";
+}
+
+std::wstring ImagePathOfWindowsProcess(HWND window) {
+    DWORD processId = 0;
+    ::GetWindowThreadProcessId(window, &processId);
+    const ZelCommon::Platform::UniqueHandle process(
+        ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
+    wchar_t path[MAX_PATH] = {};
+    DWORD size = MAX_PATH;
+    if (process) {
+        ::QueryFullProcessImageNameW(process.get(), 0, path, &size);
+    }
+    return path;
+}
+
+// The x86_64 build of the add-in, loaded from beside this program as the host loads it, with
+// the simulated agent beside it and the deployment's debug log switched on.
+class AddinInWine : public testing::Test {
+protected:
+    AddinInWine() {
+        Testing::CloseWindowsTitled(kAgentTitle);
+        std::error_code ignored;
+        std::filesystem::remove_all(LogFolder(), ignored);
+        ::SetEnvironmentVariableW(Orva::Sim::kRecordVariable, record.c_str());
+        ::WritePrivateProfileStringW(L"General", L"Debug", L"1", installFile.c_str());
+        addin.reset(::LoadLibraryW(L"ORVA_WLMA.dll"));
+    }
+    ~AddinInWine() override {
+        addin.reset();
+        Testing::CloseWindowsTitled(kAgentTitle);
+        ::SetEnvironmentVariableW(Orva::Sim::kRecordVariable, nullptr);
+        ::DeleteFileW(installFile.c_str());
+    }
+
+    BOOL InitializePlugin() {
+        return ExportAs<BOOL (*)()>(::GetProcAddress(addin.get(), "InitializePlugin"))();
+    }
+    HWND Controller() const { return ::FindWindowW(kControllerClass.c_str(), nullptr); }
+
+    // What the init sink does when the mail client shuts down, as far as the controller sees.
+    void ShutDownController() {
+        const HWND controller = Controller();
+        ::SendMessageW(controller, ControllerMessage::MailClientShutdown, 0, 0);
+        ::PostMessageW(controller, ControllerMessage::Close, 0, 0);
+        Testing::PumpMessagesUntil([&] { return !::IsWindow(controller); });
+    }
+
+    // Every line the add-in's debug log holds so far.
+    static std::string LogText() {
+        std::string text;
+        std::error_code error;
+        for (const auto& file : std::filesystem::directory_iterator(LogFolder(), error)) {
+            text += Testing::ReadFileBytes(file.path());
+        }
+        return text;
+    }
+    static bool LogShows(const std::string& line) {
+        return Testing::PumpMessagesUntil([&] { return LogText().find(line) != std::string::npos; },
+                                          2000);
+    }
+
+    const std::wstring kAgentTitle{kAgentWindowTitle};
+    const std::wstring kControllerClass{kControllerClassName};
+    Testing::TempFolder folder;
+    std::wstring record = folder.File(L"agent.txt");
+    std::wstring installFile = Testing::ProgramFolder() + L"ORVA_WLM.ini";
+    UniqueModule addin;
+};
+
+TEST_F(AddinInWine, FirstCall_StartsTheAgentFromTheAddinFolderAndTheControllerOnce) {
+    ASSERT_NE(addin, nullptr) << ::GetLastError();
+    EXPECT_EQ(Controller(), nullptr);
+
+    EXPECT_EQ(InitializePlugin(), TRUE);
+    EXPECT_EQ(InitializePlugin(), TRUE);
+
+    const HWND controller = Controller();
+    ASSERT_NE(controller, nullptr);
+    EXPECT_EQ(::GetWindowThreadProcessId(controller, nullptr), ::GetCurrentThreadId());
+    const HWND agent = Testing::WaitForWindowTitled(kAgentTitle);
+    ASSERT_NE(agent, nullptr);
+    EXPECT_EQ(ZelCommon::Path::FolderOf(ImagePathOfWindowsProcess(agent)),
+              Testing::ProgramFolder());
+    EXPECT_EQ(::SendMessageW(controller, ControllerMessage::AgentReady, 0, 0), 0);
+    EXPECT_TRUE(LogShows("WLM Shadow is OK now!"));
+
+    ShutDownController();
+    EXPECT_FALSE(::IsWindow(controller));
+    EXPECT_TRUE(LogShows("CToolBarWnd::OnClose() wait for on shutdown success"));
+
+    // Classes are kept by module handle: the value is enough to ask after the unload.
+    const HMODULE loadedAt = addin.get();
+    addin.reset();
+    WNDCLASSW registered{};
+    EXPECT_FALSE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
+}
+
+TEST_F(AddinInWine, UnloadWithoutTheHostsShutdown_LeavesNoWindowBehind) {
+    ASSERT_NE(addin, nullptr) << ::GetLastError();
+    ASSERT_EQ(InitializePlugin(), TRUE);
+    ASSERT_NE(Controller(), nullptr);
+    // An agent still starting when the test ends would outlive its clean-up.
+    ASSERT_NE(Testing::WaitForWindowTitled(kAgentTitle), nullptr);
+    const HMODULE loadedAt = addin.get();
+    WNDCLASSW registered{};
+    ASSERT_TRUE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
+
+    addin.reset();
+
+    EXPECT_EQ(Controller(), nullptr);
+    EXPECT_FALSE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
+}
+
+TEST_F(AddinInWine, CopyDataFromTheAgent_OnlyAWholeFlaggedRecordAsksToDeleteAllSpam) {
+    ASSERT_NE(addin, nullptr) << ::GetLastError();
+    ASSERT_EQ(InitializePlugin(), TRUE);
+    const HWND agent = Testing::WaitForWindowTitled(kAgentTitle);
+    ASSERT_NE(agent, nullptr);
+    // The spam folder's part is not built yet: its first use is logged.
+    const std::string deletion = "### The spam folder is not part of this build yet";
+
+    Orva::Sim::AgentCommand copy;
+    copy.delivery = Orva::Sim::Delivery::CopyData;
+    copy.copyDataId = 1078;
+    copy.payload = {1, 2, 3};
+    EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
+    copy.payload.assign(17, 0);
+    EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
+    EXPECT_TRUE(LogShows("ignored dwData=[1078], cbData=[3]"));
+    EXPECT_EQ(LogText().find(deletion), std::string::npos);
+    EXPECT_NE(Controller(), nullptr);
+
+    copy.payload[16] = 1;
+    EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
+    EXPECT_TRUE(LogShows(deletion));
+
+    ShutDownController();
+}
+
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+// Hands out one fake host object, as the plug-in host's class factory would.
+class FakeHostFactory final : public IClassFactory {
+public:
+    explicit FakeHostFactory(Testing::FakeHostObject& object) : m_object(object) {}
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (iid != IID_IUnknown && iid != IID_IClassFactory) {
+            *object = nullptr;
+            return E_NOINTERFACE;
+        }
+        *object = static_cast<IClassFactory*>(this);
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
+    STDMETHODIMP_(ULONG) Release() override { return --m_references; }
+    STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
+        *object = nullptr;
+        if (outer != nullptr) {
+            return CLASS_E_NOAGGREGATION;
+        }
+        return static_cast<IConnectionPointContainer&>(m_object).QueryInterface(iid, object);
+    }
+    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
+
+private:
+    Testing::FakeHostObject& m_object;
+    ULONG m_references = 0;
+};
+#pragma GCC diagnostic pop
+
+// One host object registered in this process under its ProgID, as the plug-in host registers
+// its classes, for as long as the registration lives.
+class RegisteredHostClass {
+public:
+    RegisteredHostClass(const wchar_t* progId, const CLSID& classId) : m_progId(progId) {
+        wchar_t text[40] = {};
+        ::StringFromGUID2(classId, text, 40);
+        // Wine's ProgID lookup reads the machine's classes only, not the user's overlay.
+        const std::wstring key = m_progId + L"\\CLSID";
+        ::RegSetKeyValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, REG_SZ, text,
+                          static_cast<DWORD>((std::wcslen(text) + 1) * sizeof(wchar_t)));
+        ::CoRegisterClassObject(classId, &m_factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
+                                &m_cookie);
+    }
+    ~RegisteredHostClass() {
+        ::CoRevokeClassObject(m_cookie);
+        ::RegDeleteTreeW(HKEY_CLASSES_ROOT, m_progId.c_str());
+    }
+    RegisteredHostClass(const RegisteredHostClass&) = delete;
+    RegisteredHostClass& operator=(const RegisteredHostClass&) = delete;
+
+    Testing::FakeHostObject object;
+
+private:
+    std::wstring m_progId;
+    FakeHostFactory m_factory{object};
+    DWORD m_cookie = 0;
+};
+
+constexpr CLSID kInitClass = {
+    0x3f0b5a61, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x41}};
+constexpr CLSID kApiClass = {
+    0x3f0b5a62, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x42}};
+
+// The host's events, fired through the host's own objects, drive the loaded add-in from the
+// ready event to the shut-down, with the real agent at the other end.
+TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
+    ASSERT_NE(addin, nullptr) << ::GetLastError();
+    ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
+    {
+        RegisteredHostClass init(L"NktWLMailApiInit.WLMailApiInit", kInitClass);
+        RegisteredHostClass api(L"NktWLMailApi.WLMailApi", kApiClass);
+
+        ASSERT_EQ(InitializePlugin(), TRUE);
+        ASSERT_NE(init.object.sink, nullptr) << "the init sink was not advised";
+        ASSERT_NE(Testing::WaitForWindowTitled(kAgentTitle), nullptr);
+
+        EXPECT_EQ(init.object.Fire(1, {}), S_OK);  // ready
+        ASSERT_NE(api.object.sink, nullptr) << "the API sink was not advised";
+        EXPECT_TRUE(LogShows("@@@ Creating NktWLMailApi::WLMailApi !"));
+
+        EXPECT_EQ(api.object.Fire(3, {Testing::Int64Arg(0x100000002)}), S_OK);
+        EXPECT_TRUE(
+            LogShows("@@@ CWLMAApiEventSink::OnFolderSelectionChanged folderId=[0x100000002]"));
+
+        EXPECT_EQ(init.object.Fire(2, {}), S_OK);  // shut-down
+        EXPECT_TRUE(Testing::PumpMessagesUntil([&] { return Controller() == nullptr; }));
+        EXPECT_TRUE(Testing::PumpMessagesUntil([&] {
+            return Testing::ReadFileBytes(record).find("sent 16 0 0") != std::string::npos;
+        })) << Testing::ReadFileBytes(record);
+        EXPECT_TRUE(LogShows("CToolBarWnd::OnClose() wait for on shutdown success"));
+
+        EXPECT_EQ(init.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+        EXPECT_EQ(api.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+        addin.reset();
+        EXPECT_EQ(init.object.references, 0u);
+        EXPECT_EQ(api.object.references, 0u);
+    }
+    ::CoUninitialize();
+}
+
+}  // namespace
+}  // namespace Orva::Plugin

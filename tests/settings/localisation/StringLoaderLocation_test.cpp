@@ -1,0 +1,272 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "StringLoaderFixture.h"
+#include "settings/localisation/OnlineHelpAddress.h"
+#include "settings/localisation/ZelResourceStringLoader.h"
+
+namespace Orva::Testing {
+namespace {
+
+using testing::ElementsAre;
+
+using StringLoaderLocationTest = StringLoaderTest;
+
+TEST_F(StringLoaderLocationTest, OrvaRegInTheInstallationFile_NamesTheProductKey) {
+    WriteEntry(InstallFile(), L"General", L"OrvaReg", L"SOFTWARE\\Elsewhere\\ORVA");
+    SetMachineValue(L"SOFTWARE\\Elsewhere\\ORVA", L"ORVAInstallPath", temp.Folder(L"other"));
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_EQ(loader.GetResourcePath(), temp.Folder(L"other") + Native(L"ORVA/Resource/x86/"));
+    EXPECT_THAT(TakeLines(), ElementsAre(L"ORVA registry path: [SOFTWARE\\Elsewhere\\ORVA]",
+                                         L"String Table Path: [" + temp.Folder(L"other") +
+                                             Native(L"ORVA/Resource/x86/]")));
+}
+
+TEST_F(StringLoaderLocationTest, BlankOrvaReg_MeansTheUsualProductKey) {
+    WriteEntry(InstallFile(), L"General", L"OrvaReg", L"");
+    ZelResourceStringLoader loader(Services());
+
+    EXPECT_EQ(loader.GetOrvaRegPath(), kProductKey);
+    EXPECT_EQ(loader.GetResourcePath(), ResourceFolder());
+}
+
+TEST_F(StringLoaderLocationTest, NoInstallPathInTheRegistry_UsesTheDefaultFolder) {
+    WriteEntry(InstallFile(), L"General", L"OrvaReg", L"SOFTWARE\\Missing");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_EQ(loader.GetResourcePath(), DefaultInstallFolder() + Native(L"ORVA/Resource/x86/"));
+    EXPECT_THAT(TakeLines(), ElementsAre(L"ORVA registry path: [SOFTWARE\\Missing]",
+                                         L"Can't find resource folder path from registry",
+                                         L"String Table Path: [" + DefaultInstallFolder() +
+                                             Native(L"ORVA/Resource/x86/]")));
+}
+
+// Records the access every key is opened with, and lets the in-memory registry answer.
+class AccessRecordingRegistry : public ZelCommon::Storage::MemoryRegistry {
+public:
+    int32_t OpenKey(ZelCommon::Storage::RegHandle parent, const wchar_t* subKey, uint32_t access,
+                    ZelCommon::Storage::RegHandle* result) override {
+        accesses.push_back(access);
+        return MemoryRegistry::OpenKey(parent, subKey, access, result);
+    }
+    std::vector<uint32_t> accesses;
+};
+
+TEST_F(StringLoaderLocationTest, ProductKey_IsReadFromThe32BitViewOnA64BitWindows) {
+    for (const bool on64 : {false, true}) {
+        AccessRecordingRegistry recording;
+        ZelCommon::Storage::Registry key(recording);
+        key.Create(ZelCommon::Storage::RegRoot::LocalMachine, kProductKey, 0);
+        key.SetString(L"ORVAInstallPath", InstallFolder());
+        int probes = 0;
+        const auto probe = [&probes, on64] {
+            ++probes;
+            return on64;
+        };
+        ZelResourceStringLoader loader(Settings::StringLoaderServices{
+            profile, recording, locale, process, log.Log(), probe, DefaultInstallFolder()});
+        EXPECT_EQ(probes, 0);
+
+        EXPECT_EQ(loader.GetResourcePath(), ResourceFolder());
+
+        EXPECT_EQ(probes, 1);
+        ASSERT_EQ(recording.accesses.size(), 1u);
+        EXPECT_EQ(recording.accesses[0] & ZelCommon::Storage::RegAccess::Wow64_32Key,
+                  on64 ? ZelCommon::Storage::RegAccess::Wow64_32Key : 0u);
+    }
+}
+
+TEST_F(StringLoaderLocationTest, ResourceFolder_FollowsTheLanguageChoice) {
+    locale.SetSystemDefaultLcid(0x0C07);  // de-AT
+    ZelCommon::Path::CreateFolderWithParents(ResourceFolder() + L"de-DE");
+    ZelCommon::Path::CreateFolderWithParents(ResourceFolder() + L"en-US");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_EQ(loader.GetResFolderByAutoDetectLanguage(), ResourceFolder() + Native(L"de-DE/"));
+    const std::vector<std::wstring> lines = TakeLines();
+    ASSERT_EQ(lines.size(), 5u);
+    EXPECT_EQ(lines[2],
+              L"Start mapping primary language ID due to <de-AT> resource folder is not "
+              L"existed: [" +
+                  ResourceFolder() + Native(L"de-AT/]"));
+    EXPECT_EQ(lines[3], L"Primary language mapped result: [de-DE]");
+    EXPECT_EQ(lines[4],
+              L"Lang: [de-DE], Resource Folder: [" + ResourceFolder() + Native(L"de-DE/]"));
+}
+
+TEST_F(StringLoaderLocationTest, NoLocaleFolderAtAll_GivesNothing) {
+    locale.SetSystemDefaultLcid(0x0411);
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_EQ(loader.GetResFolderByAutoDetectLanguage(), L"");
+    const std::vector<std::wstring> lines = TakeLines();
+    ASSERT_EQ(lines.size(), 7u);
+    EXPECT_EQ(lines[4],
+              L"<ja-JP> Language not support!!\n Mapped primary language, but still "
+              L"not existed: [" +
+                  ResourceFolder() + Native(L"ja-JP/]"));
+    EXPECT_EQ(lines[5],
+              L"Using default language <en-US>: [" + ResourceFolder() + Native(L"en-US/]"));
+    EXPECT_EQ(lines[6], L"*** Error occurred!! Resource folder is not existed: [" +
+                            ResourceFolder() + Native(L"en-US/]"));
+}
+
+TEST_F(StringLoaderLocationTest, PrimaryLanguage_MapsToItsDefaultSublanguage) {
+    locale.SetSystemDefaultLcid(0x0807);
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_EQ(loader.MapPrimaryLangID(), L"de-DE");
+    EXPECT_THAT(TakeLines(), ElementsAre(L"Primary language mapped result: [de-DE]"));
+}
+
+TEST_F(StringLoaderLocationTest, PrimaryLanguageWithoutAName_MapsToEnglish) {
+    locale.SetSystemDefaultLcid(0x0C1A);
+    ZelResourceStringLoader loader(Services());
+    EXPECT_EQ(loader.MapPrimaryLangID(), L"en-US");
+}
+
+// The help parts as an administrator would register them.
+class OnlineHelpTest : public StringLoaderTest {
+protected:
+    static constexpr const wchar_t* kRoot = L"SOFTWARE\\Halvion\\Corelane\\1700";
+
+    OnlineHelpTest() {
+        WriteTable(L"en-US", L"IDS_OK", L"OK");
+        WriteTable(L"de-DE", L"IDS_OK", L"Gut");
+        WriteHelp(L"ProductRootRegKey", kRoot);
+        WriteHelp(L"URLKey", L"OnlineHelp\\URL");
+        WriteHelp(L"PIDKey", L"PID");
+        WriteHelp(L"FunID_LINK_FILTER", L"OnlineHelp\\Topics\\FunID_LINK_FILTER");
+        SetMachineValue(kRoot, L"PID", L"1700");
+        SetMachineValue(std::wstring(kRoot) + L"\\OnlineHelp", L"URL", L"https://help.example/");
+        SetMachineValue(std::wstring(kRoot) + L"\\OnlineHelp\\Topics", L"FunID_LINK_FILTER",
+                        L"link-filter.htm");
+    }
+    void WriteHelp(const std::wstring& key, const std::wstring& value) {
+        WriteEntry(InstallFile(), L"OnlinHelp", key, value);
+    }
+    std::wstring Address() {
+        ZelResourceStringLoader loader(Services());
+        TakeLines();
+        return loader.GetORVA_OLH_URL(L"FunID_LINK_FILTER", L"ORVA_WLM.ini", L"");
+    }
+    // The help lines only, without those of the resource folder and the language choice.
+    std::vector<std::wstring> HelpLines() {
+        std::vector<std::wstring> lines;
+        for (const std::wstring& line : TakeLines()) {
+            if (line.rfind(L"!!! ", 0) == 0) {
+                lines.push_back(line);
+            }
+        }
+        return lines;
+    }
+};
+
+TEST_F(OnlineHelpTest, EveryPartRegistered_JoinsSiteLocaleProductAndPage) {
+    EXPECT_EQ(Address(), L"https://help.example/en-US/1700/link-filter.htm");
+    EXPECT_THAT(HelpLines(), testing::IsEmpty());
+}
+
+TEST_F(OnlineHelpTest, GermanSystem_PutsItsLocaleIntoTheAddress) {
+    locale.SetSystemDefaultLcid(0x0807);
+    EXPECT_EQ(Address(), L"https://help.example/de-DE/1700/link-filter.htm");
+}
+
+TEST_F(OnlineHelpTest, LocaleWithoutTable_UsesEnglishWithTheShortMessages) {
+    locale.SetSystemDefaultLcid(0x0411);
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_EQ(loader.GetORVA_OLH_URL(L"FunID_LINK_FILTER", L"ORVA_WLM.ini", L""),
+              L"https://help.example/en-US/1700/link-filter.htm");
+    const std::vector<std::wstring> lines = TakeLines();
+    ASSERT_GE(lines.size(), 3u);
+    EXPECT_THAT(std::vector<std::wstring>(lines.end() - 3, lines.end()),
+                ElementsAre(L"Primary language mapped result: [ja-JP]",
+                            L"<ja-JP> Language not support!!", L"Using default language <en-US>"));
+}
+
+TEST_F(OnlineHelpTest, BaseFolder_NamesWhereTheSettingsFileIs) {
+    const std::wstring elsewhere = temp.Folder(L"elsewhere");
+    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp",
+               L"ProductRootRegKey", kRoot);
+    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp", L"URLKey",
+               L"OnlineHelp\\URL");
+    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp", L"PIDKey", L"PID");
+    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp", L"FunID_X",
+               L"OnlineHelp\\Topics\\FunID_LINK_FILTER");
+    ZelResourceStringLoader loader(Services());
+
+    EXPECT_EQ(loader.GetORVA_OLH_URL(L"FunID_X", L"Help.ini", elsewhere),
+              L"https://help.example/en-US/1700/link-filter.htm");
+}
+
+TEST_F(OnlineHelpTest, MissingRootKey_LogsWhereItLookedAndGivesNothing) {
+    WriteHelp(L"ProductRootRegKey", L"SOFTWARE\\Nowhere");
+    EXPECT_EQ(Address(), L"");
+    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get Product Root RegKey failed: from=[" +
+                                         InstallFile() + L"], result=[SOFTWARE\\Nowhere]"));
+}
+
+TEST_F(OnlineHelpTest, MissingSite_LogsTheUrlStep) {
+    WriteHelp(L"URLKey", L"OnlineHelp\\Site");
+    EXPECT_EQ(Address(), L"");
+    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get URL SubKey failed: from=[" +
+                                         std::wstring(kRoot) + L"\\OnlineHelp\\Site], result=[]"));
+}
+
+TEST_F(OnlineHelpTest, MissingProductId_LogsThePidStep) {
+    WriteHelp(L"PIDKey", L"ProductId");
+    EXPECT_EQ(Address(), L"");
+    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get PID SubKey failed: from=[" +
+                                         std::wstring(kRoot) + L"\\ProductId], result=[]"));
+}
+
+TEST_F(OnlineHelpTest, UnlistedTopic_LogsTheTopicStep) {
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+    EXPECT_EQ(loader.GetORVA_OLH_URL(L"FunID_ADVANCED_SETTINGS", L"ORVA_WLM.ini", L""), L"");
+    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get FunID failed: from=[" + std::wstring(kRoot) +
+                                         L"\\], result=[]"));
+}
+
+struct JoinCase {
+    const wchar_t* site;
+    const wchar_t* page;
+    const wchar_t* expected;
+};
+
+class JoinHelpAddressTest : public testing::TestWithParam<JoinCase> {};
+
+TEST_P(JoinHelpAddressTest, SlashesAroundParts_GiveOneSlashBetweenThem) {
+    EXPECT_EQ(Settings::JoinHelpAddress(GetParam().site, L"en-US", L"1700", GetParam().page),
+              GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, JoinHelpAddressTest,
+                         testing::Values(JoinCase{L"https://h.example", L"a.htm",
+                                                  L"https://h.example/en-US/1700/a.htm"},
+                                         JoinCase{L"https://h.example/", L"a.htm",
+                                                  L"https://h.example/en-US/1700/a.htm"},
+                                         JoinCase{L"https://h.example//", L"/a.htm",
+                                                  L"https://h.example/en-US/1700/a.htm"},
+                                         JoinCase{L"https://h.example/help", L"x/a.htm",
+                                                  L"https://h.example/help/en-US/1700/x/a.htm"}));
+
+TEST(SplitRegistryLocation, LastBackslash_SeparatesKeyAndValue) {
+    const Settings::RegistryLocation nested = Settings::SplitRegistryLocation(L"A\\B\\Value");
+    EXPECT_EQ(nested.subKey, L"A\\B");
+    EXPECT_EQ(nested.valueName, L"Value");
+    const Settings::RegistryLocation flat = Settings::SplitRegistryLocation(L"Value");
+    EXPECT_EQ(flat.subKey, L"");
+    EXPECT_EQ(flat.valueName, L"Value");
+}
+
+}  // namespace
+}  // namespace Orva::Testing

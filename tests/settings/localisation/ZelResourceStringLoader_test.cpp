@@ -1,0 +1,274 @@
+#include "settings/localisation/ZelResourceStringLoader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "StringLoaderFixture.h"
+
+namespace Orva::Testing {
+namespace {
+
+using testing::ElementsAre;
+
+using ZelResourceStringLoaderTest = StringLoaderTest;
+
+TEST_F(ZelResourceStringLoaderTest, ConstructionAndDestruction_LogEnterAndLeave) {
+    { ZelResourceStringLoader loader(Services()); }
+    EXPECT_THAT(TakeLines(),
+                ElementsAre(L"[Enter] ZelResourceStringLoader::ZelResourceStringLoader()...",
+                            L"[Leave] ZelResourceStringLoader::ZelResourceStringLoader()...",
+                            L"[Enter] ZelResourceStringLoader::~ZelResourceStringLoader()...",
+                            L"[Leave] ZelResourceStringLoader::~ZelResourceStringLoader()..."));
+}
+
+TEST_F(ZelResourceStringLoaderTest, SystemLocaleTable_IsLoadedAndLogged) {
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_TRUE(loader.Succeeded());
+    EXPECT_EQ(loader.LocaleName(), L"en-US");
+    EXPECT_EQ(loader.TablePath(), TableOf(L"en-US"));
+    EXPECT_THAT(
+        TakeLines(),
+        ElementsAre(L"ORVA registry path: [SOFTWARE\\Halvion\\Corelane\\1700\\ORVA]",
+                    L"String Table Path: [" + ResourceFolder() + L"]",
+                    L"Successfully loaded MUI stringTable. Lang: [en-US], Section: [ORVA_WLM], "
+                    L"File: [" +
+                        TableOf(L"en-US") + L"]"));
+    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"OK");
+    EXPECT_THAT(TakeLines(), ElementsAre(L"<IDS_OK> String loaded."));
+}
+
+TEST_F(ZelResourceStringLoaderTest, ForeignModulePath_LogsTheRegexErrorAndStillAnswers) {
+    process.SetModuleFilePath(ZelCommon::Path::ChildFile(InstallFolder(), L"Zel_Addin.dll"));
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_EQ(loader.GetOrvaRegPath(), L"SOFTWARE\\Halvion\\Corelane\\1700\\ORVA");
+    EXPECT_THAT(TakeLines(),
+                ElementsAre(L"regex match error, please check current path: [" +
+                                process.ModuleFilePath() + L"]",
+                            L"ORVA registry path: [SOFTWARE\\Halvion\\Corelane\\1700\\ORVA]"));
+}
+
+TEST_F(ZelResourceStringLoaderTest, OtherMailClientVariants_PassTheRegex) {
+    for (const wchar_t* name : {L"ORVA_OLA.dll", L"ORVA_OEA.dll", L"ORVA_WLMA.dll"}) {
+        process.SetModuleFilePath(ZelCommon::Path::ChildFile(InstallFolder(), name));
+        ZelResourceStringLoader loader(Services());
+        TakeLines();
+        loader.GetOrvaRegPath();
+        EXPECT_THAT(TakeLines(), ElementsAre(L"ORVA registry path: "
+                                             L"[SOFTWARE\\Halvion\\Corelane\\1700\\ORVA]"))
+            << name;
+    }
+}
+
+TEST_F(ZelResourceStringLoaderTest, EmptySection_FailsWithoutLookingForATable) {
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_FALSE(loader.Initialize(L""));
+
+    EXPECT_FALSE(loader.Succeeded());
+    EXPECT_THAT(TakeLines(), ElementsAre(L"*** Error: Length of _tszSectionName is zero."));
+}
+
+TEST_F(ZelResourceStringLoaderTest, NoTableForLocale_UsesThePrimaryLanguagesTable) {
+    locale.SetSystemDefaultLcid(0x0807);  // de-CH
+    WriteTable(L"de-DE", L"IDS_OK", L"Gut");
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LocaleName(), L"de-DE");
+    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"Gut");
+    const std::vector<std::wstring> lines = TakeLines();
+    ASSERT_EQ(lines.size(), 6u);
+    EXPECT_EQ(lines[2],
+              L"Start mapping primary language ID due to <de-CH> StringTable is not "
+              L"existed: [" +
+                  TableOf(L"de-CH") + L"]");
+    EXPECT_EQ(lines[3], L"Primary language mapped result: [de-DE]");
+    EXPECT_EQ(lines[4],
+              L"Successfully loaded MUI stringTable. Lang: [de-DE], Section: "
+              L"[ORVA_WLM], File: [" +
+                  TableOf(L"de-DE") + L"]");
+}
+
+TEST_F(ZelResourceStringLoaderTest, NeitherLocaleNorPrimaryLanguage_FallsBackToEnglish) {
+    locale.SetSystemDefaultLcid(0x0411);  // ja-JP
+    WriteTable(L"de-DE", L"IDS_OK", L"Gut");
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LocaleName(), L"en-US");
+    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"OK");
+    const std::vector<std::wstring> lines = TakeLines();
+    ASSERT_EQ(lines.size(), 8u);
+    EXPECT_EQ(lines[2],
+              L"Start mapping primary language ID due to <ja-JP> StringTable is not "
+              L"existed: [" +
+                  TableOf(L"ja-JP") + L"]");
+    EXPECT_EQ(lines[3], L"Primary language mapped result: [ja-JP]");
+    EXPECT_EQ(lines[4],
+              L"<ja-JP> Language not support!!\n Mapped primary language's StringTable "
+              L"is still not existed: [" +
+                  TableOf(L"ja-JP") + L"]");
+    EXPECT_EQ(lines[5], L"Using default language <en-US>: [" + TableOf(L"en-US") + L"]");
+}
+
+TEST_F(ZelResourceStringLoaderTest, NoEnglishTableEither_FailsAndEveryLoadIsEmpty) {
+    locale.SetSystemDefaultLcid(0x0411);
+    WriteTable(L"de-DE", L"IDS_OK", L"Gut");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_FALSE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(TakeLines().back(), L"*** Error occurred!! <en-US> StringTable is not existed: [" +
+                                      TableOf(L"en-US") + L"]");
+    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"");
+    EXPECT_FALSE(loader.Succeeded());
+    EXPECT_THAT(TakeLines(), ElementsAre(L"*** ZelCommon::Storage::Exception(): [0x000000a0]"));
+}
+
+TEST_F(ZelResourceStringLoaderTest, LanguageMapEntry_OverridesTheSystemLocale) {
+    locale.SetSystemDefaultLcid(0x0809);  // en-GB, whose primary language would give en-US
+    WriteTable(L"de-DE", L"IDS_OK", L"Gut");
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    WriteLanguageMap(0x0809, L"de-DE");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LocaleName(), L"de-DE");
+    const std::vector<std::wstring> lines = TakeLines();
+    ASSERT_EQ(lines.size(), 5u);
+    EXPECT_EQ(lines[2], L"Using LanguageMap.ini to perform language mapping, path: [" +
+                            ResourceFolder() + L"LanguageMap.ini]");
+    EXPECT_EQ(lines[3], L"<LanguageMap.ini> Matched Locale Name from [en-GB] to [de-DE]");
+}
+
+TEST_F(ZelResourceStringLoaderTest, LanguageMapWithoutTheLocale_KeepsTheSystemLocale) {
+    locale.SetSystemDefaultLcid(0x0407);
+    WriteTable(L"de-DE", L"IDS_OK", L"Gut");
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    WriteLanguageMap(1047, L"de-DE");
+    ZelResourceStringLoader loader(Services());
+
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LocaleName(), L"de-DE");
+    for (const std::wstring& line : TakeLines()) {
+        EXPECT_EQ(line.find(L"Matched Locale Name"), std::wstring::npos) << line;
+    }
+}
+
+TEST_F(ZelResourceStringLoaderTest, TableWithoutTheSection_FailsAsAReadError) {
+    WriteTable(L"en-US", L"IDS_OK", L"OK", L"OTHER_CONSUMER");
+    ZelResourceStringLoader loader(Services());
+    TakeLines();
+
+    EXPECT_FALSE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(TakeLines().back(),
+              L"*** Error occurred!! Read stringTable failed. Lang.: [en-US], "
+              L"File: [" +
+                  TableOf(L"en-US") + L"]");
+}
+
+TEST_F(ZelResourceStringLoaderTest, EscapedLineBreaks_BecomeRealOnes) {
+    WriteTable(L"en-US", L"IDS_TWO_LINES", L"first\\nsecond");
+    WriteTable(L"en-US", L"IDS_RETURN", L"a\\r\\nb");
+    WriteTable(L"en-US", L"IDS_PATH", L"C:\\temp\\x");
+    ZelResourceStringLoader loader(Services());
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LoadString(L"IDS_TWO_LINES"), L"first\nsecond");
+    EXPECT_EQ(loader.LoadString(L"IDS_RETURN"), L"a\r\nb");
+    EXPECT_EQ(loader.LoadString(L"IDS_PATH"), L"C:\\temp\\x");
+}
+
+TEST_F(ZelResourceStringLoaderTest, EmptyId_ClearsTheFlagAndLogs) {
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+    TakeLines();
+
+    EXPECT_EQ(loader.LoadString(L""), L"");
+
+    EXPECT_FALSE(loader.Succeeded());
+    EXPECT_THAT(TakeLines(), ElementsAre(L"*** Error! Load empty string ID."));
+}
+
+TEST_F(ZelResourceStringLoaderTest, MissingId_GivesEmptyTextAndLogsTheId) {
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+    TakeLines();
+
+    EXPECT_EQ(loader.LoadString(L"IDS_NOWHERE"), L"");
+
+    EXPECT_THAT(TakeLines(), ElementsAre(L"*** Error! Get string failed. ID: [IDS_NOWHERE]",
+                                         L"<IDS_NOWHERE> String loaded."));
+}
+
+TEST_F(ZelResourceStringLoaderTest, UnInitialize_ClosesTheTable) {
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    loader.UnInitialize();
+
+    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"");
+    EXPECT_FALSE(loader.Succeeded());
+}
+
+TEST_F(ZelResourceStringLoaderTest, UnknownSystemLocale_IsTreatedAsMissing) {
+    locale.SetSystemDefaultLcid(0x0C1A);  // a locale the fake cannot name
+    WriteTable(L"en-US", L"IDS_OK", L"OK");
+    ZelResourceStringLoader loader(Services());
+
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LocaleName(), L"en-US");
+}
+
+TEST_F(ZelResourceStringLoaderTest, LongText_ComesBackWhole) {
+    const std::wstring text(5000, L'x');
+    WriteTable(L"en-US", L"IDS_LONG", text + L"\\nend");
+    ZelResourceStringLoader loader(Services());
+    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+
+    EXPECT_EQ(loader.LoadString(L"IDS_LONG"), text + L"\nend");
+}
+
+TEST_F(ZelResourceStringLoaderTest, DamagedTable_IsRefusedWithoutHarm) {
+    ZelCommon::Path::CreateFolderWithParents(ResourceFolder() + L"en-US");
+    {
+        std::ofstream garbage(std::filesystem::path(TableOf(L"en-US")), std::ios::binary);
+        for (int i = 0; i < 4096; ++i) {
+            garbage.put(static_cast<char>((i * 7919) & 0xFF));
+        }
+    }
+    ZelResourceStringLoader loader(Services());
+
+    EXPECT_FALSE(loader.Initialize(L"ORVA_WLM"));
+    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"");
+}
+
+}  // namespace
+}  // namespace Orva::Testing

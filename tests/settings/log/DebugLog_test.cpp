@@ -1,0 +1,389 @@
+#include "settings/log/DebugLog.h"
+#include "support/FileBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdio>
+#include <filesystem>
+#include <regex>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeProcessContext.h"
+#include "common_src/platform/TextCodec.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using Orva::Testing::ReadFileBytes;
+using ZelCommon::Fakes::FakeClock;
+using ZelCommon::Fakes::FakeDebuggerOutput;
+using ZelCommon::Fakes::FakeProcessContext;
+using ZelCommon::Library::DebugLog;
+using ZelCommon::Library::FormatWhere;
+using ZelCommon::Library::ScopeTracer;
+
+// Text-mode files on Windows end their lines with CR LF.
+std::string OnDisk(std::string text) {
+#ifdef _WIN32
+    std::string out;
+    for (const char c : text) {
+        if (c == '\n') {
+            out += '\r';
+        }
+        out += c;
+    }
+    return out;
+#else
+    return text;
+#endif
+}
+
+class DebugLogTest : public ::testing::Test {
+protected:
+    DebugLogTest() : m_clock(FakeClock::At(2024, 1, 31, 9, 5, 7, 42)) {
+        static std::atomic<int> counter{0};
+        m_folder = fs::temp_directory_path() /
+                   ("orva_debuglog_" + std::to_string(m_process.ProcessId()) + "_" +
+                    std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "_" +
+                    std::to_string(counter++) + "_" +
+                    std::to_string(std::hash<std::thread::id>{}(std::this_thread::get_id())));
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+        m_process.SetProcessId(0x51234);
+        m_process.SetThreadId(0xA000B);
+    }
+    ~DebugLogTest() override {
+        std::error_code ignored;
+        fs::remove_all(m_folder, ignored);
+    }
+
+    std::wstring Base(const wchar_t* name) const { return (m_folder / name).wstring(); }
+    std::vector<fs::path> Files() const {
+        std::vector<fs::path> files;
+        for (const auto& entry : fs::directory_iterator(m_folder)) {
+            files.push_back(entry.path().filename());
+        }
+        return files;
+    }
+
+    FakeClock m_clock;
+    FakeProcessContext m_process;
+    FakeDebuggerOutput m_debugger;
+    DebugLog m_log{m_clock, m_process, m_debugger};
+    fs::path m_folder;
+};
+
+const std::string kHead = "1234:000b 2024/01/31 09:05:07:042 ";
+const std::wstring kWideHead = L"1234:000b 2024/01/31 09:05:07:042 ";
+
+TEST_F(DebugLogTest, NeverOpened_WritesNothingAnywhere) {
+    m_log.WriteLine(L"line\n");
+    m_log.LogMessage(0, "a.cpp", 1, L"message %d", 1);
+    m_log.LogText(L"@@@ %s  IN", L"Step");
+    { ScopeTracer tracer(L"CFoo::Bar", "Foo.cpp", 10, m_log); }
+    EXPECT_FALSE(m_log.IsLogOn());
+    EXPECT_TRUE(Files().empty());
+    EXPECT_TRUE(m_debugger.Texts().empty());
+}
+
+TEST_F(DebugLogTest, OpenLog_CreatesTodaysDatedFile) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    EXPECT_TRUE(m_log.IsLogOn());
+    EXPECT_EQ(Files(), std::vector<fs::path>{"ORVAAgent.20240131.log"});
+}
+
+TEST_F(DebugLogTest, WriteLine_HeadThenTextExactly) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    m_log.WriteLine(L"hello\n");
+    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
+    m_process.SetProcessId(0xFFFFFFFF);
+    m_process.SetThreadId(0x10000);
+    m_log.WriteLine(L"second\n");
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
+              OnDisk(kHead + "hello\nffff:0000 2024/01/31 23:59:59:999 second\n"));
+    EXPECT_EQ(m_debugger.Texts(),
+              (std::vector<std::wstring>{kWideHead + L"hello\n",
+                                         L"ffff:0000 2024/01/31 23:59:59:999 second\n"}));
+}
+
+TEST_F(DebugLogTest, WriteLine_NoByteOrderMarkAndAnsiBytes) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    m_log.WriteLine(L"caf\u00E9\n");
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
+              OnDisk(kHead + ZelCommon::Text::WideToAnsi(L"caf\u00E9") + "\n"));
+}
+
+TEST_F(DebugLogTest, Line499Characters_IsWrittenWhole) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    const std::wstring text = std::wstring(464, L'a') + L"\n";
+    ASSERT_EQ(kWideHead.size() + text.size(), 499u);
+    m_log.WriteLine(text);
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
+              OnDisk(kHead + std::string(464, 'a') + "\n"));
+    EXPECT_EQ(m_debugger.Texts().at(0), kWideHead + text);
+}
+
+TEST_F(DebugLogTest, Line500Characters_Keeps495AndEndsWithDotsAndN) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    const std::wstring text = std::wstring(465, L'a') + L"\n";
+    ASSERT_EQ(kWideHead.size() + text.size(), 500u);
+    m_log.WriteLine(text);
+    const std::string expected = kHead + std::string(495 - kHead.size(), 'a') + "...n";
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), expected);
+    EXPECT_EQ(m_debugger.Texts().at(0).size(), 499u);
+}
+
+TEST_F(DebugLogTest, VeryLongLine_IsCutTheSameWay) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    m_log.LogMessage(2, "x.cpp", 1, L"%s", std::wstring(5000, L'z'));
+    const std::string expected = kHead + "@@@ " + std::string(495 - kHead.size() - 4, 'z') + "...n";
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), expected);
+}
+
+struct LevelRow {
+    int level;
+    const char* prefix;
+};
+
+TEST_F(DebugLogTest, LogMessage_PrefixByLevelAndPlace) {
+    const LevelRow rows[] = {{0, "!!! "}, {1, "### "}, {2, "@@@ "}, {7, "??? "}, {-1, "??? "}};
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    std::string expected;
+    for (const LevelRow& row : rows) {
+        m_log.LogMessage(row.level, "C:\\work\\src\\settings\\SettingsStore.cpp", 120,
+                         L"value %d of %s", row.level, L"Debug");
+        expected += kHead + row.prefix + "value " + std::to_string(row.level) +
+                    " of Debug, at: SettingsStore.cpp line: 120\n";
+    }
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), OnDisk(expected));
+}
+
+TEST_F(DebugLogTest, LogMessage_UnixSourcePath_KeepsFileName) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    m_log.LogMessage(0, "/work/main/src/plugin/ToolBarWnd.cpp", 7, L"XXX failed");
+    EXPECT_EQ(m_debugger.Texts().at(0),
+              kWideHead + L"!!! XXX failed, at: ToolBarWnd.cpp line: 7\n");
+}
+
+TEST_F(DebugLogTest, LogText_AddsLineBreakOnlyWhenMissing) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    m_log.LogText(L"@@@ %s  IN", L"CToolBarWnd::OnBuildUI");
+    m_log.LogText(L"######the nPos = %d!\n", 3);
+    m_log.LogText(L"");
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
+              OnDisk(kHead + "@@@ CToolBarWnd::OnBuildUI  IN\n" + kHead + "######the nPos = 3!\n" +
+                     kHead + "\n"));
+}
+
+TEST_F(DebugLogTest, ScopeTracer_WritesInAndOutLines) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    {
+        ScopeTracer tracer(L"CToolBarWnd::OnCreate", "src\\plugin\\ToolBarWnd.cpp", 88, m_log);
+        m_log.WriteLine(L"body\n");
+    }
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
+              OnDisk(kHead + " ==> [CToolBarWnd::OnCreate] in, at: ToolBarWnd.cpp line: 88\n" +
+                     kHead + "body\n" + kHead +
+                     " <== [CToolBarWnd::OnCreate] out, at: ToolBarWnd.cpp line: 88\n"));
+}
+
+// Checks whether this process still holds the file open.
+bool IsHeldOpen(const fs::path& path) {
+#ifdef _WIN32
+    // A file opened by _wfopen cannot be renamed while open.
+    const fs::path moved = path.string() + ".moved";
+    std::error_code error;
+    fs::rename(path, moved, error);
+    if (error) {
+        return true;
+    }
+    fs::rename(moved, path, error);
+    return false;
+#else
+    std::error_code error;
+    const fs::path wanted = fs::canonical(path, error);
+    for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+        std::error_code ignored;
+        if (fs::read_symlink(entry.path(), ignored) == wanted) {
+            return true;
+        }
+    }
+    return false;
+#endif
+}
+
+TEST_F(DebugLogTest, FirstLineAfterMidnight_GoesToNewDaysFileAndOldIsClosed) {
+    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    m_log.WriteLine(L"before\n");
+    EXPECT_TRUE(IsHeldOpen(m_folder / "ORVAAgent.20240131.log"));
+    m_clock.Advance(1);
+    m_log.WriteLine(L"after\n");
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
+              OnDisk("1234:000b 2024/01/31 23:59:59:999 before\n"));
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240201.log"),
+              OnDisk("1234:000b 2024/02/01 00:00:00:000 after\n"));
+    EXPECT_FALSE(IsHeldOpen(m_folder / "ORVAAgent.20240131.log"));
+    EXPECT_TRUE(IsHeldOpen(m_folder / "ORVAAgent.20240201.log"));
+}
+
+TEST_F(DebugLogTest, NewDaysFileCannotOpen_LogGoesOffWithoutWriting) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    fs::create_directory(m_folder / "ORVAAgent.20240201.log");
+    m_clock.Set(FakeClock::At(2024, 2, 1, 0, 0, 1, 0));
+    m_log.WriteLine(L"lost\n");
+    EXPECT_FALSE(m_log.IsLogOn());
+    m_log.WriteLine(L"also lost\n");
+    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), "");
+    EXPECT_EQ(m_debugger.Texts().size(), 1u);
+}
+
+TEST_F(DebugLogTest, BasePathWithoutDot_DateGoesBeforeLastCharacter) {
+    m_log.OpenLog(Base(L"ORVAAgent"));
+    m_log.WriteLine(L"x\n");
+    EXPECT_EQ(Files(), std::vector<fs::path>{"ORVAAgen.20240131t"});
+}
+
+TEST_F(DebugLogTest, OpenFails_LogStaysOffAndSilent) {
+    m_log.OpenLog((m_folder / "missing" / "ORVAAgent.log").wstring());
+    m_log.WriteLine(L"x\n");
+    m_log.LogMessage(0, "a.cpp", 1, L"y");
+    EXPECT_FALSE(m_log.IsLogOn());
+    EXPECT_TRUE(m_debugger.Texts().empty());
+    EXPECT_TRUE(Files().empty());
+}
+
+TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    constexpr int kThreads = 8;
+    constexpr int kLines = 150;
+    std::vector<std::thread> threads;
+    for (int t = 0; t < kThreads; ++t) {
+        threads.emplace_back([this, t] {
+            const std::wstring filler(static_cast<size_t>(100 + t * 30),
+                                      static_cast<wchar_t>(L'a' + t));
+            for (int n = 0; n < kLines; ++n) {
+                m_log.LogMessage(2, "Worker.cpp", 5, L"T%d N%03d %s", t, n, filler);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    std::string text = ReadFileBytes(m_folder / "ORVAAgent.20240131.log");
+#ifdef _WIN32
+    std::erase(text, '\r');
+#endif
+    const std::regex shape(
+        "1234:000b 2024/01/31 09:05:07:042 @@@ T([0-7]) N([0-9]{3}) ([a-h]+), at: Worker.cpp "
+        "line: 5");
+    std::vector<int> counts(kThreads, 0);
+    size_t start = 0;
+    int lines = 0;
+    while (start < text.size()) {
+        const size_t end = text.find('\n', start);
+        ASSERT_NE(end, std::string::npos);
+        const std::string line = text.substr(start, end - start);
+        std::smatch match;
+        ASSERT_TRUE(std::regex_match(line, match, shape)) << line;
+        const int t = std::stoi(match[1]);
+        EXPECT_EQ(std::stoi(match[2]), counts[static_cast<size_t>(t)]++);
+        EXPECT_EQ(match[3].str(),
+                  std::string(static_cast<size_t>(100 + t * 30), static_cast<char>('a' + t)));
+        ++lines;
+        start = end + 1;
+    }
+    EXPECT_EQ(lines, kThreads * kLines);
+    EXPECT_EQ(m_debugger.Texts().size(), static_cast<size_t>(kThreads * kLines));
+}
+
+TEST_F(DebugLogTest, WritersAcrossMidnight_EachLineLandsInTheFileOfItsOwnDate) {
+    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 0));
+    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    std::atomic<bool> stop{false};
+    std::vector<std::thread> writers;
+    for (int t = 0; t < 4; ++t) {
+        writers.emplace_back([this, &stop, t] {
+            int n = 0;
+            while (!stop) {
+                m_log.LogText(L"writer %d line %d", t, n++);
+            }
+            // Past midnight by now: every writer also reaches the new day's file.
+            m_log.LogText(L"writer %d line %d", t, n);
+        });
+    }
+    for (int step = 0; step < 2000; ++step) {
+        m_clock.Advance(1);
+        std::this_thread::yield();
+    }
+    stop = true;
+    for (std::thread& writer : writers) {
+        writer.join();
+    }
+    const std::regex shape("1234:000b (2024/01/31|2024/02/01) [0-9:]{12} writer [0-3] line [0-9]+");
+    size_t total = 0;
+    for (const auto& [file, date] : {std::pair{"ORVAAgent.20240131.log", "2024/01/31"},
+                                     std::pair{"ORVAAgent.20240201.log", "2024/02/01"}}) {
+        std::string text = ReadFileBytes(m_folder / file);
+#ifdef _WIN32
+        std::erase(text, '\r');
+#endif
+        size_t start = 0;
+        while (start < text.size()) {
+            const size_t end = text.find('\n', start);
+            ASSERT_NE(end, std::string::npos);
+            const std::string line = text.substr(start, end - start);
+            std::smatch match;
+            ASSERT_TRUE(std::regex_match(line, match, shape)) << line;
+            EXPECT_EQ(match[1].str(), date) << file;
+            ++total;
+            start = end + 1;
+        }
+    }
+    EXPECT_EQ(total, m_debugger.Texts().size());
+    EXPECT_GE(total, 4u);
+}
+
+struct DatedRow {
+    const wchar_t* base;
+    const wchar_t* dated;
+};
+
+TEST(DebugLogDatedPath, DateGoesBeforeLastDotOrLastCharacter) {
+    const DatedRow rows[] = {
+        {L"C:\\Users\\u\\AppData\\Local\\Halvion\\WLM\\log\\ORVAAgent.log",
+         L"C:\\Users\\u\\AppData\\Local\\Halvion\\WLM\\log\\ORVAAgent.20240131.log"},
+        {L"agent.trace.txt", L"agent.trace.20240131.txt"},
+        {L"C:\\log\\ORVAAgent", L"C:\\log\\ORVAAgen.20240131t"},
+        {L"x", L".20240131x"},
+        {L"C:\\my.folder\\ORVAAgent", L"C:\\my.20240131.folder\\ORVAAgent"},
+        {L"name.", L"name.20240131."},
+        {L"", L".20240131"},
+    };
+    const auto date = FakeClock::At(2024, 1, 31);
+    for (const DatedRow& row : rows) {
+        EXPECT_EQ(DebugLog::DatedPath(row.base, date), row.dated);
+    }
+    EXPECT_EQ(DebugLog::DatedPath(L"a.log", FakeClock::At(987, 12, 5)), L"a.09871205.log");
+}
+
+TEST(DebugLogFormatWhere, FunctionMessageFileAndLine) {
+    EXPECT_EQ(
+        FormatWhere(L"CSettings::Load", L"cannot read", "C:\\src\\settings\\Settings.cpp", 42),
+        L"CSettings::Load() - cannot read [Settings.cpp(42)]");
+    EXPECT_EQ(FormatWhere(L"f", L"", "plain.cpp", 0), L"f() -  [plain.cpp(0)]");
+}
+
+TEST(DebugLogHiddenFunctions, FlagFollowsSetter) {
+    ZelCommon::Library::SetHiddenFunctionsEnabled(true);
+    EXPECT_TRUE(ZelCommon::Library::HiddenFunctionsEnabled());
+    ZelCommon::Library::SetHiddenFunctionsEnabled(false);
+    EXPECT_FALSE(ZelCommon::Library::HiddenFunctionsEnabled());
+}
+
+}  // namespace
