@@ -1,59 +1,47 @@
 #include "plugin/ORVA_WLMAApp.h"
 
-#include <utility>
-
 #include "common_src/win32/MuiResource.h"
-#include "settings/probes/FileVersionReader.h"
+#include "settings/DebugLogSwitch.h"
 #include "settings/SettingsStartup.h"
+#include "settings/probes/FileVersionReader.h"
 
 namespace Orva::Plugin {
 
-CORVA_WLMAApp::CORVA_WLMAApp(ApplicationPorts ports, ControllerFactory createController)
-    : m_ports(std::move(ports)),
-      m_createController(std::move(createController)),
-      m_strings(m_ports.strings) {}
+CORVA_WLMAApp::CORVA_WLMAApp(ApplicationParts parts) : m_parts(parts) {}
 
 CORVA_WLMAApp::~CORVA_WLMAApp() = default;
 
 void CORVA_WLMAApp::InitInstance() {
-    if (IsStarted()) {
+    if (m_started) {
         return;
     }
-    m_paths = Orva::Settings::ComputeSettingsPaths(m_ports.process, m_ports.registry);
-    const bool windows64 = m_ports.strings.isWindows64 && m_ports.strings.isWindows64();
-    m_settings.emplace(m_ports.profile, Orva::Settings::FilesOf(*m_paths, windows64));
+    m_started = true;
+    Orva::Settings::CreateSettingsFolders(m_parts.paths);
+    // Before the agent's launch, so that a launch that fails is in the log file.
+    Orva::Settings::SwitchOnDebugLog(m_parts.settings, m_parts.paths.logFolder, m_parts.log);
 
-    m_agent.emplace(m_ports.messaging, m_ports.clock, m_ports.launcher, m_ports.log,
-                    m_paths->addinFolder);
-    m_agent->LaunchShadow();
-
+    m_parts.agent.LaunchShadow();
     m_mui = ZelCommon::Win32::LoadMuiResource(
-        [this] { return m_strings.GetResFolderByAutoDetectLanguage(); }, m_ports.debugger);
-
-    if (m_createController) {
-        m_controller =
-            m_createController(ApplicationContext{*m_paths, *m_settings, *m_agent, m_strings});
-    }
-    StartSettings(windows64);
+        [this] { return m_parts.strings.GetResFolderByAutoDetectLanguage(); }, m_parts.debugger);
+    m_parts.controller.Open();
+    StartSettings();
 }
 
-// The controller's settings start: the log is switched on here, so everything before it (the
-// agent's launch included) is only ever seen on the debugger output.
-void CORVA_WLMAApp::StartSettings(bool windows64) {
-    const Orva::Settings::FileVersionReader module(m_ports.process.ModuleFilePath());
+void CORVA_WLMAApp::StartSettings() {
+    const Orva::Settings::FileVersionReader module(m_parts.process.ModuleFilePath());
     const std::wstring version = module.Query(L"FileVersion").value_or(std::wstring());
-    Orva::Settings::StartAddinSettings(*m_paths, m_ports.profile, windows64, version, m_ports.log);
+    Orva::Settings::StartAddinSettings(m_parts.settings, m_parts.paths, version, m_parts.log);
 }
 
 void CORVA_WLMAApp::ExitInstance() {
-    if (m_controller && m_controller->Exists()) {
-        m_controller->Close();
+    if (m_parts.controller.Exists()) {
+        m_parts.controller.Close();
     }
 }
 
 void CORVA_WLMAApp::SetWLMBrowserWnd(ZelCommon::Platform::WindowHandle window) {
-    if (m_controller && m_controller->Exists()) {
-        m_controller->SetMailClientWindow(window);
+    if (m_parts.controller.Exists()) {
+        m_parts.controller.SetMailClientWindow(window);
     }
 }
 

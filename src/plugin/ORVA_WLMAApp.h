@@ -1,31 +1,26 @@
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <optional>
-#include <string>
 
-#include "common_src/ZelCommon/ProfileApi.h"
-#include "common_src/ZelCommon/RegistryApi.h"
-#include "common_src/platform/Clock.h"
 #include "common_src/platform/ProcessContext.h"
-#include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "common_src/win32/ResourceHandle.h"
 #include "plugin/agent/AgentLink.h"
-#include "settings/log/DebugLog.h"
 #include "settings/SettingsPaths.h"
 #include "settings/SettingsStore.h"
-#include "settings/localisation/StringLoaderServices.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
+#include "settings/log/DebugLog.h"
 
 namespace Orva::Plugin {
 
-// The controller window as the application object owns it.
+// The controller window as the application object drives it: built with everything it needs by
+// the add-in's wiring, created by the application at its step of the start-up.
 class IControllerHandle {
 public:
     virtual ~IControllerHandle() = default;
-    // False once the window has been destroyed (its WM_CLOSE ran).
+    // Creates the window; false when Windows refused it.
+    virtual bool Open() = 0;
+    // False before Open and once the window has been destroyed (its WM_CLOSE ran).
     virtual bool Exists() const = 0;
     // Closes the window at the add-in's exit.
     virtual void Close() = 0;
@@ -33,61 +28,42 @@ public:
     virtual void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) = 0;
 };
 
-// What the application object hands the controller it creates: the folders fixed at start and
-// the services the application owns for the process lifetime.
-struct ApplicationContext {
+// What the add-in's wiring builds once, for the process lifetime, and hands the application.
+struct ApplicationParts {
+    ZelCommon::Platform::IProcessContext& process;
+    ZelCommon::Platform::IDebuggerOutput& debugger;
+    ZelCommon::Library::DebugLog& log;
     const Orva::Settings::SettingsPaths& paths;
     Orva::Settings::SettingsStore& settings;
     CAgentLink& agent;
     ZelResourceStringLoader& strings;
+    IControllerHandle& controller;
 };
 
-// Creates the controller window; null when the window could not be created.
-using ControllerFactory =
-    std::function<std::unique_ptr<IControllerHandle>(const ApplicationContext& context)>;
-
-struct ApplicationPorts {
-    ZelCommon::Platform::IProcessContext& process;
-    ZelCommon::Platform::IDebuggerOutput& debugger;
-    ZelCommon::Platform::IWindowMessaging& messaging;
-    ZelCommon::Platform::IClock& clock;
-    ZelCommon::Platform::IProcessLauncher& launcher;
-    ZelCommon::Storage::IRegistryApi& registry;
-    ZelCommon::Storage::IProfileApi& profile;
-    ZelCommon::Library::DebugLog& log;
-    Orva::Settings::StringLoaderServices strings;
-};
-
-// The add-in's application object: starts the agent, the language resources and the controller
-// window when the add-in is loaded, and closes the controller when it is unloaded.
+// The add-in's application object: runs the start-up in its order (folders, debug-log switch,
+// agent, language resources, controller window, the settings start) and closes the controller
+// when the add-in is unloaded.
 class CORVA_WLMAApp {
 public:
-    CORVA_WLMAApp(ApplicationPorts ports, ControllerFactory createController);
+    explicit CORVA_WLMAApp(ApplicationParts parts);
     ~CORVA_WLMAApp();
     CORVA_WLMAApp(const CORVA_WLMAApp&) = delete;
     CORVA_WLMAApp& operator=(const CORVA_WLMAApp&) = delete;
 
     // Runs once; later calls do nothing.
     void InitInstance();
-    // Closes a controller that still exists; what the application holds is released with it.
+    // Closes a controller that still exists.
     void ExitInstance();
     void SetWLMBrowserWnd(ZelCommon::Platform::WindowHandle window);
 
-    bool IsStarted() const { return m_paths.has_value(); }
-    bool HasController() const { return m_controller != nullptr; }
-    const Orva::Settings::SettingsPaths& Paths() const { return *m_paths; }
+    bool IsStarted() const { return m_started; }
 
 private:
-    void StartSettings(bool windows64);
+    void StartSettings();
 
-    ApplicationPorts m_ports;
-    ControllerFactory m_createController;
-    std::optional<Orva::Settings::SettingsPaths> m_paths;
-    std::optional<Orva::Settings::SettingsStore> m_settings;
-    std::optional<CAgentLink> m_agent;
-    ZelResourceStringLoader m_strings;
+    ApplicationParts m_parts;
+    bool m_started = false;
     std::unique_ptr<ZelCommon::Win32::ResourceHandle> m_mui;
-    std::unique_ptr<IControllerHandle> m_controller;
 };
 
 }  // namespace Orva::Plugin

@@ -80,10 +80,8 @@ SettingsPaths MakeSettingsPaths(const std::wstring& addinFolder,
 
 SettingsPaths ComputeSettingsPaths(ZelCommon::Platform::IProcessContext& process,
                                    ZelCommon::Storage::IRegistryApi& registry) {
-    SettingsPaths paths = MakeSettingsPaths(AddinFolderOf(process.ModuleFilePath()),
-                                            process.CommonAppDataFolder(), IdentityName(registry));
-    CreateSettingsFolders(paths);
-    return paths;
+    return MakeSettingsPaths(AddinFolderOf(process.ModuleFilePath()), process.CommonAppDataFolder(),
+                             IdentityName(registry));
 }
 
 bool CreateSettingsFolders(const SettingsPaths& paths) {

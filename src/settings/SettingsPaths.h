@@ -35,7 +35,7 @@ SettingsPaths MakeSettingsPaths(const std::wstring& addinFolder,
                                 const std::wstring& identity);
 
 // The paths of this process: module path and common application data from the process context,
-// identity from the registry. Creates the data root and the per-user folder with their parents.
+// identity from the registry. Touches nothing on disk (the start-up creates the folders).
 SettingsPaths ComputeSettingsPaths(ZelCommon::Platform::IProcessContext& process,
                                    ZelCommon::Storage::IRegistryApi& registry);
 

@@ -1,23 +1,16 @@
 #include "settings/SettingsStartup.h"
 
-#include "settings/DebugLogSwitch.h"
 #include "settings/StartRecord.h"
 #include "settings/VersionFile.h"
 
 namespace Orva::Settings {
 
-StartedSettings StartAddinSettings(const SettingsPaths& paths,
-                                   ZelCommon::Storage::IProfileApi& profile, bool windows64,
+StartedSettings StartAddinSettings(SettingsStore& store, const SettingsPaths& paths,
                                    const std::wstring& addinVersion,
                                    ZelCommon::Library::DebugLog& log) {
     StartedSettings started;
-    started.paths = paths;
-    started.files = FilesOf(started.paths, windows64);
-    SettingsStore store(profile, started.files);
-
-    started.logSwitchedOn = SwitchOnDebugLog(store, started.paths.logFolder, log);
-    log.LogText(L"@@@ Settings: user folder %s, install file %s\n", started.paths.userFolder,
-                started.paths.installFile);
+    log.LogText(L"@@@ Settings: user folder %s, install file %s\n", paths.userFolder,
+                paths.installFile);
     started.presets = ApplyPresets(store);
     for (const PresetResult& preset : started.presets) {
         if (preset.outcome == PresetOutcome::Applied) {
@@ -28,7 +21,7 @@ StartedSettings StartAddinSettings(const SettingsPaths& paths,
     }
     started.startCount = RecordAddinStart(store, addinVersion);
     if (!WriteVersionFile(store, addinVersion)) {
-        log.LogText(L"xxx Settings: cannot write the version file %s\n", started.files.versionFile);
+        log.LogText(L"xxx Settings: cannot write the version file %s\n", store.Files().versionFile);
     }
     return started;
 }

@@ -4,28 +4,22 @@
 #include <string>
 #include <vector>
 
-#include "common_src/ZelCommon/ProfileApi.h"
-#include "settings/log/DebugLog.h"
 #include "settings/Presets.h"
 #include "settings/SettingsPaths.h"
 #include "settings/SettingsStore.h"
+#include "settings/log/DebugLog.h"
 
 namespace Orva::Settings {
 
 struct StartedSettings {
-    SettingsPaths paths;
-    SettingsFiles files;
-    bool logSwitchedOn = false;
     std::vector<PresetResult> presets;
     int32_t startCount = 0;
 };
 
-// Everything the add-in does with its settings once its controller exists, on the folders the
-// application fixed at start (ComputeSettingsPaths): switches the debug log on when the
-// deployment asks for it, so that the later steps can already log, copies the presets, counts
-// the start, records the add-in's file version and writes the shared version file.
-StartedSettings StartAddinSettings(const SettingsPaths& paths,
-                                   ZelCommon::Storage::IProfileApi& profile, bool windows64,
+// What the add-in does with its settings once its controller exists (the debug log was switched
+// on before, see SwitchOnDebugLog, so that these steps can already log): copies the presets,
+// counts the start, records the add-in's file version and writes the shared version file.
+StartedSettings StartAddinSettings(SettingsStore& store, const SettingsPaths& paths,
                                    const std::wstring& addinVersion,
                                    ZelCommon::Library::DebugLog& log);
 

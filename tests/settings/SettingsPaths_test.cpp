@@ -94,7 +94,7 @@ TEST(AddinFolderOf, KeepsTheFinalSeparator) {
               Native(L"C:/Program Files/Orva/"));
 }
 
-TEST(ComputeSettingsPaths, NoIdentity_UsesTheDefaultUserFolderAndCreatesIt) {
+TEST(ComputeSettingsPaths, NoIdentity_UsesTheDefaultUserFolder) {
     Testing::TempFolder temp;
     ZelCommon::Fakes::FakeProcessContext process;
     process.SetModuleFilePath(temp.File(L"ORVA_WLMA.dll"));
@@ -105,7 +105,7 @@ TEST(ComputeSettingsPaths, NoIdentity_UsesTheDefaultUserFolderAndCreatesIt) {
 
     EXPECT_EQ(paths.addinFolder, temp.Path());
     EXPECT_EQ(paths.userFolder, temp.Path() + Native(L"data/Halvion/WLM/Users/Default/"));
-    EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.userFolder));
+    EXPECT_TRUE(CreateSettingsFolders(paths));
     EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.dataRoot));
 }
 
@@ -121,7 +121,6 @@ TEST(ComputeSettingsPaths, LastUserId_NamesTheUserFolder) {
 
     EXPECT_EQ(paths.identity, L"{8E4C}");
     EXPECT_EQ(paths.userFile, temp.Path() + Native(L"Halvion/WLM/Users/{8E4C}/ORVA_WLM.ini"));
-    EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.userFolder));
 }
 
 }  // namespace

@@ -2,12 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/Registry.h"
+#include "common_src/platform/Path.h"
+#include "settings/DebugLogSwitch.h"
+#include "support/TempFolder.h"
 #include "support/fakes/platform/FakeClock.h"
 #include "support/fakes/platform/FakeProcessContext.h"
-#include "common_src/platform/Path.h"
-#include "support/TempFolder.h"
 
 namespace Orva::Settings {
 namespace {
@@ -30,9 +33,13 @@ protected:
                                        std::wstring(entry.key).c_str(), value,
                                        (addinFolder + L"ORVA_WLM.ini").c_str());
     }
+    // As the add-in starts: folders, the debug-log switch, then the settings start.
     StartedSettings Start(bool windows64 = false) {
-        return StartAddinSettings(ComputeSettingsPaths(process, registry), SystemProfileApi(),
-                                  windows64, L"3.1.0.7", log);
+        paths = ComputeSettingsPaths(process, registry);
+        CreateSettingsFolders(paths);
+        store = std::make_unique<SettingsStore>(SystemProfileApi(), FilesOf(paths, windows64));
+        logSwitchedOn = SwitchOnDebugLog(*store, paths.logFolder, log);
+        return StartAddinSettings(*store, paths, L"3.1.0.7", log);
     }
 
     Testing::TempFolder temp;
@@ -42,6 +49,9 @@ protected:
     ZelCommon::Fakes::FakeClock clock{ZelCommon::Fakes::FakeClock::At(2024, 1, 31, 9)};
     ZelCommon::Fakes::FakeDebuggerOutput debugger;
     ZelCommon::Library::DebugLog log{clock, process, debugger};
+    SettingsPaths paths;
+    std::unique_ptr<SettingsStore> store;
+    bool logSwitchedOn = false;
 };
 
 TEST_F(SettingsStartupTest, FirstStart_CreatesTheUserFolderAndWritesEveryStartSetting) {
@@ -49,38 +59,35 @@ TEST_F(SettingsStartupTest, FirstStart_CreatesTheUserFolderAndWritesEveryStartSe
 
     const StartedSettings started = Start();
 
-    EXPECT_TRUE(ZelCommon::Path::FolderExists(started.paths.userFolder));
-    EXPECT_EQ(started.paths.identity, L"Default");
-    EXPECT_FALSE(started.logSwitchedOn);
+    EXPECT_FALSE(logSwitchedOn);
     EXPECT_FALSE(log.IsLogOn());
     EXPECT_EQ(started.startCount, 1);
-    SettingsStore store(SystemProfileApi(), started.files);
-    EXPECT_EQ(store.GetString(SettingId::ProtectLevel), L"3");
-    EXPECT_EQ(store.GetInt(SettingId::SettedPLevel), 1);
-    EXPECT_EQ(store.GetString(SettingId::ORVAWLMVer), L"3.1.0.7");
-    EXPECT_EQ(store.GetString(SettingId::VersionDeployVersion), L"3.1.0.7");
-    EXPECT_EQ(store.GetString(SettingId::VersionPname), L"orva");
+    const SettingsStore reread(SystemProfileApi(), store->Files());
+    EXPECT_EQ(reread.GetString(SettingId::ProtectLevel), L"3");
+    EXPECT_EQ(reread.GetInt(SettingId::SettedPLevel), 1);
+    EXPECT_EQ(reread.GetString(SettingId::ORVAWLMVer), L"3.1.0.7");
+    EXPECT_EQ(reread.GetString(SettingId::VersionDeployVersion), L"3.1.0.7");
+    EXPECT_EQ(reread.GetString(SettingId::VersionPname), L"orva");
 }
 
 TEST_F(SettingsStartupTest, SecondStart_CountsAgainAndKeepsTheUsersChoice) {
     SetInstall(SettingId::InstallProtectLevel, L"3");
-    const StartedSettings first = Start();
-    SettingsStore(SystemProfileApi(), first.files).SetInt(SettingId::ProtectLevel, 1);
+    Start();
+    store->SetInt(SettingId::ProtectLevel, 1);
 
     const StartedSettings second = Start();
 
     EXPECT_EQ(second.startCount, 2);
-    EXPECT_EQ(SettingsStore(SystemProfileApi(), second.files).GetString(SettingId::ProtectLevel),
-              L"1");
+    EXPECT_EQ(store->GetString(SettingId::ProtectLevel), L"1");
 }
 
 TEST_F(SettingsStartupTest, DebugOne_LogsThePresetsItApplies) {
     SetInstall(SettingId::InstallDebug, L"1");
     SetInstall(SettingId::InstallPurgeDays, L"9");
 
-    const StartedSettings started = Start();
+    Start();
 
-    ASSERT_TRUE(started.logSwitchedOn);
+    ASSERT_TRUE(logSwitchedOn);
     ASSERT_TRUE(log.IsLogOn());
     bool sawPreset = false;
     for (const std::wstring& line : debugger.Texts()) {
@@ -90,8 +97,8 @@ TEST_F(SettingsStartupTest, DebugOne_LogsThePresetsItApplies) {
 }
 
 TEST_F(SettingsStartupTest, Windows64_PutsTheIdentificationInTheOrvaOe64Section) {
-    const StartedSettings started = Start(true);
-    EXPECT_EQ(ZelCommon::Storage::ReadProfileString(SystemProfileApi(), started.files.versionFile,
+    Start(true);
+    EXPECT_EQ(ZelCommon::Storage::ReadProfileString(SystemProfileApi(), paths.versionFile,
                                                     L"ORVA_OE64", L"class", L"<missing>"),
               L"WLMA");
 }

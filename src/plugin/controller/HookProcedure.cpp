@@ -1,7 +1,7 @@
 #include <string>
 
-#include "plugin/protocol/ControllerProtocol.h"
 #include "plugin/controller/ToolBarController.h"
+#include "plugin/protocol/ControllerProtocol.h"
 
 namespace Orva::Plugin {
 

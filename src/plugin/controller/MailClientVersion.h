@@ -15,6 +15,12 @@ public:
     virtual std::optional<int> MajorVersion() = 0;
 };
 
+// The mail client 2009 has the classic toolbar; 2011 and 2012 have the ribbon; no other version
+// is served.
+inline constexpr int kClassicClientVersion = 14;
+inline constexpr int kFirstRibbonClientVersion = 15;
+inline constexpr int kLastRibbonClientVersion = 16;
+
 // The leading number of a version text, as resource compilers write it ("16.4.3528.0331" or
 // "14, 0, 8117, 0416"); none when the text does not start with a digit or the number is absurd.
 std::optional<int> MajorVersionOf(std::wstring_view fileVersion);

@@ -1,18 +1,15 @@
+#include "plugin/controller/ToolBarController.h"
+
 #include <string>
 #include <string_view>
 
 #include "common_src/platform/TextCodec.h"
 #include "plugin/protocol/ControllerProtocol.h"
-#include "plugin/controller/ToolBarController.h"
 
 namespace Orva::Plugin {
 namespace {
 
 using Orva::Settings::SettingId;
-
-constexpr int kClassicClientVersion = 14;
-constexpr int kFirstRibbonClientVersion = 15;
-constexpr int kLastRibbonClientVersion = 16;
 
 }  // namespace
 
@@ -68,57 +65,6 @@ void CToolBarController::OnBuildRibbonToolbar() {
     }
     Log(L"@@@ %s  OUT", kName);
     m_ports.debugger.Write(L"tesr2");
-}
-
-void CToolBarController::OnTimer() {
-    if (m_mainWindow == 0) {
-        m_mainWindow = m_ports.messaging.FindByClass(std::wstring(kMailClientMainClass));
-        if (m_mainWindow != 0) {
-            m_mainWindowAttached = true;
-            Log(L"CToolBarWnd::OnTimer() Got WLM handle");
-        } else {
-            Log(L"CToolBarWnd::OnTimer() Get WLM handle Error:%d",
-                static_cast<int32_t>(m_ports.process.LastError()));
-        }
-    }
-    if (!m_parts.classic.IsBuilt() && m_mailClientVersion.value_or(0) < kFirstRibbonClientVersion) {
-        m_parts.classic.OnBuildUserInterface(kTimerBuildWParam, kTimerBuildLParam);
-        return;
-    }
-    if (m_mainWindow != 0) {
-        m_ports.window.KillTimer(kMainWindowTimerId);
-    }
-}
-
-intptr_t CToolBarController::OnHookOE(ZelCommon::Platform::WindowHandle mainWindow) {
-    Log(L"@@@ OnHookOE IN");
-    if (m_savedProcedure != 0 || mainWindow == 0) {
-        Log(L"@@@ OnHookOE OUT");
-        return 1;
-    }
-    m_savedProcedure = m_ports.hook.CurrentProcedure(mainWindow);
-    if (m_savedProcedure == 0) {
-        return 0;
-    }
-    if (!m_ports.hook.InstallHook(mainWindow)) {
-        // Nothing was replaced, so there is nothing to put back later.
-        m_savedProcedure = 0;
-        return 0;
-    }
-    m_hookedWindow = mainWindow;
-    Log(L"@@@ OnHookOE OUT");
-    return 1;
-}
-
-intptr_t CToolBarController::OnUnhookOE() {
-    Orva::Settings::OsVersionRecord os;
-    // Only Windows 6.x gets its procedure back; elsewhere the hook stays until the window closes.
-    if (m_savedProcedure != 0 && m_ports.os.QueryVersion(os) && os.majorVersion == 6) {
-        m_ports.hook.Restore(m_hookedWindow, m_savedProcedure);
-        m_savedProcedure = 0;
-        m_hookedWindow = 0;
-    }
-    return 0;
 }
 
 }  // namespace Orva::Plugin

@@ -1,9 +1,9 @@
 #include <optional>
 #include <string>
 
+#include "plugin/controller/ToolBarController.h"
 #include "plugin/protocol/AgentProtocol.h"
 #include "plugin/protocol/ControllerProtocol.h"
-#include "plugin/controller/ToolBarController.h"
 
 namespace Orva::Plugin {
 namespace {

@@ -1,8 +1,8 @@
 #include <cstring>
 #include <mutex>
 
-#include "plugin/protocol/ControllerProtocol.h"
 #include "plugin/controller/ToolBarController.h"
+#include "plugin/protocol/ControllerProtocol.h"
 
 namespace Orva::Plugin {
 namespace {

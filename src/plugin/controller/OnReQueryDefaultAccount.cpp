@@ -1,5 +1,5 @@
-#include "plugin/protocol/AgentProtocol.h"
 #include "plugin/controller/ToolBarController.h"
+#include "plugin/protocol/AgentProtocol.h"
 
 namespace Orva::Plugin {
 namespace {

@@ -69,41 +69,6 @@ intptr_t CToolBarController::OnCreate() {
     return 0;
 }
 
-template <class Unadvise>
-void CToolBarController::UnadviseLogged(Unadvise unadvise) {
-    try {
-        unadvise();
-    } catch (const HostCallError& error) {
-        Log(L"!!! CWLMShadow::OnClose() WLMApi Event Sink excpetion:[%S]", error.what());
-    } catch (...) {
-        Log(L"xxx WLMApi Event Sink Fail!");
-    }
-}
-
-void CToolBarController::OnWLMShutdown() {
-    Log(L"@@@ %s  IN", L"CToolBarWnd::OnWLMShutdown");
-    UnadviseLogged([this] { m_ports.host.UnadviseApiSink(); });
-    m_parts.spamFolder.PostCleanDeletedFolder();
-    m_ports.host.ShutdownGdiplus();
-    m_ports.shutdownDone.Set();
-    Log(L"@@@ %s  OUT", L"CToolBarWnd::OnWLMShutdown");
-}
-
-void CToolBarController::OnClose() {
-    Log(L"@@@ %s  IN", L"CToolBarWnd::OnClose");
-    // The shut-down handling may still be running when the host posts the close: give it time,
-    // but close anyway when it never finishes.
-    if (m_ports.shutdownDone.Wait(kShutdownWaitMilliseconds)) {
-        Log(L"CToolBarWnd::OnClose() wait for on shutdown success");
-    } else {
-        Log(L"CToolBarWnd::OnClose() wait for on shutdown failed");
-    }
-    UnadviseLogged([this] { m_ports.host.UnadviseInitSink(); });
-    m_ports.host.ReleaseInitObject();
-    m_ports.host.UninitializeCom();
-    m_parts.strings.Release();
-}
-
 void CToolBarController::OnTearDownClassicUi() {
     m_mainWindowAttached = false;
     m_parts.classic.TearDown();

@@ -17,11 +17,11 @@
 #include "plugin/agent/AgentLink.h"
 #include "plugin/controller/ControllerParts.h"
 #include "plugin/controller/ControllerWindow.h"
-#include "plugin/host/HostObjects.h"
 #include "plugin/controller/MailClientVersion.h"
+#include "plugin/host/HostObjects.h"
+#include "settings/SettingsStore.h"
 #include "settings/log/DebugLog.h"
 #include "settings/probes/OsInfo.h"
-#include "settings/SettingsStore.h"
 
 namespace Orva::Plugin {
 

@@ -3,39 +3,18 @@
 #include <exception>
 #include <memory>
 
-#include "common_src/ZelCommon/ProfileApi.h"
-#include "common_src/ZelCommon/RegistryApi.h"
-#include "common_src/platform/Clock.h"
-#include "common_src/platform/ProcessContext.h"
-#include "common_src/platform/ProcessLauncher.h"
-#include "common_src/platform/WindowMessaging.h"
-#include "plugin/ORVA_WLMAApp.h"
 #include "plugin/controller/ToolBarWnd_win.h"
-#include "plugin/dll/SystemController_win.h"
+#include "plugin/dll/SystemAddin_win.h"
 #include "settings/log/DebugLog.h"
-#include "settings/localisation/StringLoaderServices.h"
 
 namespace Orva::Plugin {
 namespace {
 
 HINSTANCE g_module = nullptr;
 
-std::unique_ptr<CORVA_WLMAApp>& TheApp() {
-    static std::unique_ptr<CORVA_WLMAApp> app;
-    return app;
-}
-
-std::unique_ptr<CORVA_WLMAApp> MakeApp() {
-    using namespace ZelCommon::Platform;
-    return std::make_unique<CORVA_WLMAApp>(
-        ApplicationPorts{SystemProcessContext(), SystemDebuggerOutput(), SystemWindowMessaging(),
-                         SystemClock(), SystemProcessLauncher(),
-                         ZelCommon::Storage::SystemRegistryApi(),
-                         ZelCommon::Storage::SystemProfileApi(), ZelCommon::Library::TheLog(),
-                         Orva::Settings::SystemStringLoaderServices()},
-        [](const ApplicationContext& context) {
-            return CreateSystemController(g_module, context);
-        });
+std::unique_ptr<CSystemAddin>& TheAddin() {
+    static std::unique_ptr<CSystemAddin> addin;
+    return addin;
 }
 
 void LogFailure(const char* step, const char* what) {
@@ -50,10 +29,10 @@ void RememberAddinModule(HINSTANCE module) {
 
 void StartAddin() {
     try {
-        if (!TheApp()) {
-            TheApp() = MakeApp();
+        if (!TheAddin()) {
+            TheAddin() = std::make_unique<CSystemAddin>(g_module);
         }
-        TheApp()->InitInstance();
+        TheAddin()->App().InitInstance();
     } catch (const std::exception& error) {
         LogFailure("start-up", error.what());
     } catch (...) {
@@ -63,8 +42,9 @@ void StartAddin() {
 
 void HandOverMailClientWindow(HWND window) {
     try {
-        if (TheApp()) {
-            TheApp()->SetWLMBrowserWnd(reinterpret_cast<ZelCommon::Platform::WindowHandle>(window));
+        if (TheAddin()) {
+            TheAddin()->App().SetWLMBrowserWnd(
+                reinterpret_cast<ZelCommon::Platform::WindowHandle>(window));
         }
     } catch (...) {
         LogFailure("SetWLMBrowserWnd", "exception");
@@ -73,8 +53,8 @@ void HandOverMailClientWindow(HWND window) {
 
 void StopAddin() {
     try {
-        if (TheApp()) {
-            TheApp()->ExitInstance();
+        if (TheAddin()) {
+            TheAddin()->App().ExitInstance();
         }
         CToolBarWnd::ReleaseAtUnload(g_module);
     } catch (...) {
@@ -86,7 +66,7 @@ void StopAddin() {
 void AbandonAddin() {
     // Deliberately never destroyed: its destructors would free libraries and release COM
     // objects under the loader lock.
-    static_cast<void>(TheApp().release());
+    static_cast<void>(TheAddin().release());
 }
 
 }  // namespace Orva::Plugin

@@ -1,4 +1,4 @@
-#include "plugin/dll/PluginExports.h"
+#include "plugin/dll/PluginExports_win.h"
 
 #include "plugin/dll/AddinInstance_win.h"
 

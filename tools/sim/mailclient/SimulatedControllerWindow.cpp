@@ -16,9 +16,10 @@ using ZelCommon::Fakes::FakeWindowMessaging;
 using ZelCommon::Platform::WindowHandle;
 namespace Message = Orva::Plugin::ControllerMessage;
 
-SimulatedControllerWindow::SimulatedControllerWindow(
-    SimulatedProcess& process, SimulatedMessageLoop& loop,
-    const Orva::Plugin::ApplicationContext& context)
+SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
+                                                     SimulatedMessageLoop& loop,
+                                                     Orva::Settings::SettingsStore& settings,
+                                                     Orva::Plugin::CAgentLink& agent)
     : m_process(process),
       m_loop(loop),
       m_controller(
@@ -26,7 +27,7 @@ SimulatedControllerWindow::SimulatedControllerWindow(
                                         m_shell, m_keyboard, process.process, process.debugger,
                                         m_os, m_calls, m_host, process.version, process.log},
           Orva::Plugin::ControllerParts{m_ribbon, m_classic, m_spamFolder, m_account, m_dialogs,
-                                        m_strings, context.settings, context.agent}) {
+                                        m_strings, settings, agent}) {
     ZelCommon::Fakes::FakeJournal* journal = &process.journal;
     for (ZelCommon::Fakes::JournalNotes* fake :
          std::initializer_list<ZelCommon::Fakes::JournalNotes*>{
@@ -36,7 +37,10 @@ SimulatedControllerWindow::SimulatedControllerWindow(
     }
     // The mail client 14 has its rebar from the start, so the classic band goes in at once.
     m_classic.SetRebarPresent(true);
+}
 
+bool SimulatedControllerWindow::Open() {
+    SimulatedProcess& process = m_process;
     m_window = process.messaging.AddWindow(std::wstring(Orva::Plugin::kControllerWindowTitle),
                                            std::wstring(Orva::Plugin::kControllerClassName));
     m_controller.SetWindow(m_window);
@@ -44,6 +48,7 @@ SimulatedControllerWindow::SimulatedControllerWindow(
         return OnMessage(message);
     });
     process.messaging.Send(m_window, Message::Create, 0, 0);
+    return true;
 }
 
 SimulatedControllerWindow::~SimulatedControllerWindow() {

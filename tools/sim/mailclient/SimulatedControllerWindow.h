@@ -8,25 +8,27 @@
 #include "ScriptedOsInfo.h"
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
-#include "support/fakes/plugin/FakePluginPorts.h"
-#include "support/fakes/platform/FakeSystemPorts.h"
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/controller/ToolBarController.h"
+#include "support/fakes/platform/FakeSystemPorts.h"
+#include "support/fakes/plugin/FakePluginPorts.h"
 
 namespace Orva::Sim {
 
 // The controller window in the simulated process: a window of the controller's class and title
 // that hands every message to the real CToolBarController, which works on recording fakes of
 // the host and of the add-in's parts. Messages arrive as Windows delivers them: a send runs at
-// once, a post waits in the message loop. Created with WM_CREATE; WM_CLOSE destroys it.
+// once, a post waits in the message loop. Opened with WM_CREATE; WM_CLOSE destroys it.
 class SimulatedControllerWindow final : public Orva::Plugin::IControllerHandle {
 public:
     SimulatedControllerWindow(SimulatedProcess& process, SimulatedMessageLoop& loop,
-                              const Orva::Plugin::ApplicationContext& context);
+                              Orva::Settings::SettingsStore& settings,
+                              Orva::Plugin::CAgentLink& agent);
     ~SimulatedControllerWindow() override;
     SimulatedControllerWindow(const SimulatedControllerWindow&) = delete;
     SimulatedControllerWindow& operator=(const SimulatedControllerWindow&) = delete;
 
+    bool Open() override;
     bool Exists() const override;
     void Close() override;
     void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) override;

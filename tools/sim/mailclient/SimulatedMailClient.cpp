@@ -28,30 +28,32 @@ SimulatedMailClient::SimulatedMailClient(int mailClientVersion)
     : m_process(mailClientVersion),
       m_relay(m_process.messaging, m_process.log),
       m_bandAgentLink(m_process.messaging, m_process.clock, m_process.launcher, m_process.log,
-                      m_process.AddinFolder()) {
+                      m_process.AddinFolder()),
+      m_paths(Orva::Settings::ComputeSettingsPaths(m_process.process, m_process.registry)),
+      m_settings(m_process.profile, Orva::Settings::FilesOf(m_paths, false)),
+      m_agent(m_process.messaging, m_process.clock, m_process.launcher, m_process.log,
+              m_paths.addinFolder),
+      m_strings(m_process.StringServices()),
+      m_window(m_process, m_loop, m_settings, m_agent),
+      m_app(ApplicationParts{m_process.process, m_process.debugger, m_process.log, m_paths,
+                             m_settings, m_agent, m_strings, m_window}) {
     m_process.profile.SetJournal(&m_process.journal);
-    m_app = std::make_unique<CORVA_WLMAApp>(
-        ApplicationPorts{m_process.process, m_process.debugger, m_process.messaging,
-                         m_process.clock, m_process.launcher, m_process.registry, m_process.profile,
-                         m_process.log, m_process.StringServices()},
-        [this](const ApplicationContext& context) -> std::unique_ptr<IControllerHandle> {
-            auto window = std::make_unique<SimulatedControllerWindow>(m_process, m_loop, context);
-            m_controllerWindow = window.get();
-            return window;
-        });
 }
 
 SimulatedMailClient::~SimulatedMailClient() {
     // As the unloading of the add-in would: the application object closes what still lives.
     try {
-        m_app->ExitInstance();
+        m_app.ExitInstance();
     } catch (...) {
         // Nothing is left to report to at this point.
     }
 }
 
 void SimulatedMailClient::LoadAddin() {
-    m_app->InitInstance();
+    m_app.InitInstance();
+    if (m_window.Exists()) {
+        m_controllerWindow = &m_window;
+    }
     // What the export itself does once the start-up ran.
     m_process.debugger.Write(L"ORVA InitializePlugin()");
     Settle();
@@ -139,7 +141,7 @@ void SimulatedMailClient::ClickDropDownEntry(int32_t entry) {
 void SimulatedMailClient::ShutDown() {
     m_relay.OnShutdown();
     Settle();
-    m_app->ExitInstance();
+    m_app.ExitInstance();
     m_controllerWindow = nullptr;
 }
 

@@ -1,16 +1,18 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "SimulatedControllerWindow.h"
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
+#include "plugin/ORVA_WLMAApp.h"
 #include "plugin/agent/AgentLink.h"
 #include "plugin/host/HostEventRelay.h"
-#include "plugin/ORVA_WLMAApp.h"
+#include "settings/SettingsPaths.h"
+#include "settings/SettingsStore.h"
+#include "settings/localisation/ZelResourceStringLoader.h"
 
 namespace Orva::Sim {
 
@@ -54,14 +56,20 @@ private:
     void Settle();
     void ClickReportButton(int32_t ribbonButton, uint32_t agentMessage);
 
+    // Wired as the add-in's DLL wires itself, on the simulated process.
     SimulatedProcess m_process;
     SimulatedMessageLoop m_loop;
     Orva::Plugin::CHostEventRelay m_relay;
     // The classic band's buttons talk to the agent themselves, through a link of their own.
     Orva::Plugin::CAgentLink m_bandAgentLink;
-    // Owned by the application object; cleared when the application lets it go.
+    Orva::Settings::SettingsPaths m_paths;
+    Orva::Settings::SettingsStore m_settings;
+    Orva::Plugin::CAgentLink m_agent;
+    ZelResourceStringLoader m_strings;
+    SimulatedControllerWindow m_window;
+    Orva::Plugin::CORVA_WLMAApp m_app;
+    // The controller while the add-in is loaded: from its start-up to the end of the shut-down.
     SimulatedControllerWindow* m_controllerWindow = nullptr;
-    std::unique_ptr<Orva::Plugin::CORVA_WLMAApp> m_app;
     ZelCommon::Platform::WindowHandle m_suiteWindow = 0;
     std::size_t m_entriesTaken = 0;
 };

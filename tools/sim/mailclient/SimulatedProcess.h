@@ -5,18 +5,18 @@
 
 #include "JournalingProfileApi.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
+#include "common_src/platform/WindowMessaging.h"
+#include "settings/localisation/StringLoaderServices.h"
+#include "settings/log/DebugLog.h"
+#include "support/ScratchFolder.h"
 #include "support/fakes/platform/FakeClock.h"
 #include "support/fakes/platform/FakeJournal.h"
 #include "support/fakes/platform/FakeLocale.h"
-#include "support/fakes/plugin/FakePluginPorts.h"
 #include "support/fakes/platform/FakeProcessContext.h"
 #include "support/fakes/platform/FakeSystemPorts.h"
 #include "support/fakes/platform/FakeWindowMessaging.h"
 #include "support/fakes/platform/JournalDebuggerOutput.h"
-#include "support/ScratchFolder.h"
-#include "common_src/platform/WindowMessaging.h"
-#include "settings/log/DebugLog.h"
-#include "settings/localisation/StringLoaderServices.h"
+#include "support/fakes/plugin/FakePluginPorts.h"
 
 namespace Orva::Sim {
 
