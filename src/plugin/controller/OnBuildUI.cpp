@@ -41,7 +41,7 @@ intptr_t CToolBarController::OnBuildUI() {
         m_parts.classic.OnBuildUserInterface(0, 0);
     } else if (version >= kFirstRibbonClientVersion && version <= kLastRibbonClientVersion) {
         OnBuildRibbonToolbar();
-        m_ports.window.SetTimer(kMainWindowTimerId, kMainWindowTimerPeriod);
+        m_ownWindow.SetTimer(kMainWindowTimerId, kMainWindowTimerPeriod);
     } else {
         Log(L"!!! Not support WLM version");
         m_bTBEnable = false;

@@ -21,7 +21,7 @@ void CToolBarController::OnTimer() {
         return;
     }
     if (m_mainWindow != 0) {
-        m_ports.window.KillTimer(kMainWindowTimerId);
+        m_ownWindow.KillTimer(kMainWindowTimerId);
     }
 }
 

@@ -6,8 +6,9 @@
 
 namespace Orva::Plugin {
 
-CToolBarController::CToolBarController(ControllerPorts ports, ControllerParts parts)
-    : m_ports(ports), m_parts(parts), m_bTBEnable(ReadToolbarEnabled()) {}
+CToolBarController::CToolBarController(ControllerPorts ports, ControllerParts parts,
+                                       IControllerWindow& window)
+    : m_ports(ports), m_parts(parts), m_ownWindow(window), m_bTBEnable(ReadToolbarEnabled()) {}
 
 std::optional<intptr_t> CToolBarController::Dispatch(const ControllerMessageData& data) {
     namespace M = ControllerMessage;
@@ -61,7 +62,7 @@ std::optional<intptr_t> CToolBarController::Dispatch(const ControllerMessageData
 }
 
 intptr_t CToolBarController::OnCreate() {
-    m_ports.window.MakeTopMost();
+    m_ownWindow.MakeTopMost();
     if (m_ports.host.CreateInitObject()) {
         Log(L"@@@ NktWLMailApi::WLMailApiInit! created");
         m_ports.host.AdviseInitSink();

@@ -36,7 +36,6 @@ struct ControllerPorts {
     ZelCommon::Platform::IProcessContext& process;
     ZelCommon::Platform::IDebuggerOutput& debugger;
     Orva::Settings::IOsInfo& os;
-    IControllerWindow& window;
     IHostObjects& host;
     IMailClientVersion& version;
     ZelCommon::Library::DebugLog& log;
@@ -68,7 +67,8 @@ struct ControllerMessageData {
 // the agent arrives here as a window message, on the mail client's GUI thread.
 class CToolBarController {
 public:
-    CToolBarController(ControllerPorts ports, ControllerParts parts);
+    // `window` is the controller's own window (top-most switch, timers).
+    CToolBarController(ControllerPorts ports, ControllerParts parts, IControllerWindow& window);
 
     // The controller's own window, to which it posts the default-account re-query.
     void SetWindow(ZelCommon::Platform::WindowHandle window) { m_window = window; }
@@ -125,6 +125,7 @@ private:
 
     ControllerPorts m_ports;
     ControllerParts m_parts;
+    IControllerWindow& m_ownWindow;
     ZelCommon::Platform::WindowHandle m_window = 0;
     ZelCommon::Platform::WindowHandle m_mainWindow = 0;
     bool m_mainWindowAttached = false;

@@ -28,14 +28,15 @@ ZelCommon::Platform::WindowHandle HandleOf(HWND window) {
 CToolBarWnd::CToolBarWnd(Key, HINSTANCE module, ZelCommon::Library::DebugLog& log)
     : m_module(module), m_log(log) {}
 
-std::unique_ptr<CToolBarWnd> CToolBarWnd::Create(HINSTANCE module, const ControllerMaker& make,
+std::unique_ptr<CToolBarWnd> CToolBarWnd::Create(HINSTANCE module, const ControllerPorts& ports,
+                                                 const ControllerParts& parts,
                                                  ZelCommon::Library::DebugLog& log) {
     if (g_live != nullptr) {
         log.LogText(L"xxx CToolBarWnd: a controller window already exists");
         return nullptr;
     }
     auto wnd = std::make_unique<CToolBarWnd>(Key{}, module, log);
-    wnd->m_controller = make(*wnd);
+    wnd->m_controller = std::make_unique<CToolBarController>(ports, parts, *wnd);
 
     WNDCLASSW windowClass{};
     windowClass.lpfnWndProc = &CToolBarWnd::WindowProcedure;

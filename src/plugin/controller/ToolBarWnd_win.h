@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <memory>
 
 #include "plugin/controller/ControllerWindow.h"
@@ -21,13 +20,11 @@ class CToolBarWnd final : public IControllerWindow {
     };
 
 public:
-    // Builds the controller on the window's own calls, before the window exists (WM_CREATE
-    // already needs it).
-    using ControllerMaker =
-        std::function<std::unique_ptr<CToolBarController>(IControllerWindow& window)>;
-
-    // Registers the class in `module` and creates the window; null when Windows refused.
-    static std::unique_ptr<CToolBarWnd> Create(HINSTANCE module, const ControllerMaker& make,
+    // Registers the class in `module` and creates the window with its controller on `ports` and
+    // `parts` (the controller exists before the window: WM_CREATE already needs it); null when
+    // Windows refused.
+    static std::unique_ptr<CToolBarWnd> Create(HINSTANCE module, const ControllerPorts& ports,
+                                               const ControllerParts& parts,
                                                ZelCommon::Library::DebugLog& log);
     CToolBarWnd(Key, HINSTANCE module, ZelCommon::Library::DebugLog& log);
     ~CToolBarWnd() override;

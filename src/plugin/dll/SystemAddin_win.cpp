@@ -33,15 +33,12 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
 bool CSystemController::Open() {
     m_window = CToolBarWnd::Create(
         m_module,
-        [this](IControllerWindow& window) {
-            return std::make_unique<CToolBarController>(
-                ControllerPorts{SystemWindowMessaging(), SystemClock(), *m_shutdownDone, *m_hook,
-                                SystemShellOpen(), SystemKeyboard(), SystemProcessContext(),
-                                SystemDebuggerOutput(), Orva::Settings::SystemOsInfo(), window,
-                                *m_host, m_version, m_log},
-                ControllerParts{m_pending, m_pending, m_pending, m_pending, m_pending, m_strings,
-                                m_settings, m_agent});
-        },
+        ControllerPorts{SystemWindowMessaging(), SystemClock(), *m_shutdownDone, *m_hook,
+                        SystemShellOpen(), SystemKeyboard(), SystemProcessContext(),
+                        SystemDebuggerOutput(), Orva::Settings::SystemOsInfo(), *m_host, m_version,
+                        m_log},
+        ControllerParts{m_pending, m_pending, m_pending, m_pending, m_pending, m_strings,
+                        m_settings, m_agent},
         m_log);
     return m_window != nullptr;
 }

@@ -6,22 +6,22 @@
 #include <string>
 #include <vector>
 
+#include "plugin/agent/AgentLink.h"
+#include "plugin/controller/ToolBarController.h"
+#include "plugin/protocol/AgentProtocol.h"
+#include "plugin/protocol/ControllerProtocol.h"
+#include "settings/SettingsStore.h"
+#include "settings/log/DebugLog.h"
+#include "settings/probes/OsInfo.h"
+#include "support/TempFolder.h"
+#include "support/fakes/ZelCommon/FakeProfileApi.h"
 #include "support/fakes/platform/FakeClock.h"
 #include "support/fakes/platform/FakeJournal.h"
-#include "support/fakes/plugin/FakePluginPorts.h"
 #include "support/fakes/platform/FakeProcessContext.h"
-#include "support/fakes/ZelCommon/FakeProfileApi.h"
 #include "support/fakes/platform/FakeSystemPorts.h"
 #include "support/fakes/platform/FakeWindowMessaging.h"
 #include "support/fakes/platform/JournalDebuggerOutput.h"
-#include "plugin/agent/AgentLink.h"
-#include "plugin/protocol/AgentProtocol.h"
-#include "plugin/protocol/ControllerProtocol.h"
-#include "plugin/controller/ToolBarController.h"
-#include "settings/log/DebugLog.h"
-#include "settings/probes/OsInfo.h"
-#include "settings/SettingsStore.h"
-#include "support/TempFolder.h"
+#include "support/fakes/plugin/FakePluginPorts.h"
 
 namespace Orva::Testing {
 
@@ -52,12 +52,11 @@ inline std::wstring AgentEntry(const wchar_t* delivery, uint32_t message, uintpt
            std::to_wstring(lParam);
 }
 
-// What a test puts in place of the rig's own fakes (the real window calls, messaging or
+// What a test puts in place of the rig's own fakes (the real messaging or
 // hook under Wine, a part that fails).
 struct ControllerReplacements {
     ZelCommon::Platform::IWindowMessaging* messaging = nullptr;
     ZelCommon::Platform::IWindowProcedureHook* hook = nullptr;
-    Plugin::IControllerWindow* window = nullptr;
     Plugin::ISpamFolder* spamFolder = nullptr;
     Plugin::CAgentLink* agent = nullptr;
 };
@@ -84,16 +83,34 @@ struct ControllerRig {
                                                std::wstring(Plugin::kControllerClassName));
     }
 
+    Plugin::ControllerPorts Ports(const ControllerReplacements& with = {}) {
+        return Plugin::ControllerPorts{with.messaging ? *with.messaging : messaging,
+                                       clock,
+                                       shutdownDone,
+                                       with.hook ? *with.hook : hook,
+                                       shell,
+                                       keyboard,
+                                       process,
+                                       plainDebugger,
+                                       os,
+                                       host,
+                                       version,
+                                       log};
+    }
+    Plugin::ControllerParts Parts(const ControllerReplacements& with = {}) {
+        return Plugin::ControllerParts{ribbon,
+                                       classic,
+                                       with.spamFolder ? *with.spamFolder : spamFolder,
+                                       account,
+                                       dialogs,
+                                       strings,
+                                       settings,
+                                       with.agent ? *with.agent : agent};
+    }
+
     std::unique_ptr<Plugin::CToolBarController> MakeController(
         const ControllerReplacements& with = {}) {
-        return std::make_unique<Plugin::CToolBarController>(
-            Plugin::ControllerPorts{with.messaging ? *with.messaging : messaging, clock,
-                                    shutdownDone, with.hook ? *with.hook : hook, shell, keyboard,
-                                    process, plainDebugger, os, with.window ? *with.window : window,
-                                    host, version, log},
-            Plugin::ControllerParts{ribbon, classic,
-                                    with.spamFolder ? *with.spamFolder : spamFolder, account,
-                                    dialogs, strings, settings, with.agent ? *with.agent : agent});
+        return std::make_unique<Plugin::CToolBarController>(Ports(with), Parts(with), window);
     }
 
     // Built on first use, so that a test can prepare the settings it reads when created.

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "support/fakes/platform/FakeProcessContext.h"
 #include "plugin/controller/MailClientVersion.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 
 namespace Orva::Plugin {
 namespace {

@@ -70,9 +70,10 @@ TEST(ControllerCopyDataLock, SecondRequestWaitsForTheFirstToFinish) {
     Orva::Plugin::CToolBarController controller(
         Orva::Plugin::ControllerPorts{rig.messaging, rig.clock, rig.shutdownDone, rig.hook,
                                       rig.shell, rig.keyboard, rig.process, rig.plainDebugger,
-                                      rig.os, rig.window, rig.host, rig.version, rig.log},
+                                      rig.os, rig.host, rig.version, rig.log},
         Orva::Plugin::ControllerParts{rig.ribbon, rig.classic, folder, rig.account, rig.dialogs,
-                                      rig.strings, rig.settings, rig.agent});
+                                      rig.strings, rig.settings, rig.agent},
+        rig.window);
     const auto first = DeleteAllRecord(1);
     const auto second = DeleteAllRecord(2);
     std::thread firstCaller([&] { controller.OnCopyData(1078, first); });

@@ -21,6 +21,7 @@
 namespace Orva::Plugin {
 namespace {
 
+using Testing::ControllerReplacements;
 using Testing::ControllerRig;
 
 // A spam folder whose delete-all fails with an exception.
@@ -41,13 +42,8 @@ struct WindowRig : ControllerRig {
                                       ZelCommon::Platform::IWindowProcedureHook& hookPort,
                                       ISpamFolder& spamFolderPart,
                                       CAgentLink* agentLink = nullptr) {
-        return CToolBarWnd::Create(
-            ::GetModuleHandleW(nullptr),
-            [&](IControllerWindow& ownWindow) {
-                return MakeController(
-                    {&messagingPort, &hookPort, &ownWindow, &spamFolderPart, agentLink});
-            },
-            log);
+        const ControllerReplacements with{&messagingPort, &hookPort, &spamFolderPart, agentLink};
+        return CToolBarWnd::Create(::GetModuleHandleW(nullptr), Ports(with), Parts(with), log);
     }
     std::unique_ptr<CToolBarWnd> Open() { return Open(messaging, hook, spamFolder); }
 

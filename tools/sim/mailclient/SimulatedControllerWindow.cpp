@@ -25,9 +25,10 @@ SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
       m_controller(
           Orva::Plugin::ControllerPorts{process.messaging, process.clock, m_shutdownDone, m_hook,
                                         m_shell, m_keyboard, process.process, process.debugger,
-                                        m_os, m_calls, m_host, process.version, process.log},
+                                        m_os, m_host, process.version, process.log},
           Orva::Plugin::ControllerParts{m_ribbon, m_classic, m_spamFolder, m_account, m_dialogs,
-                                        m_strings, settings, agent}) {
+                                        m_strings, settings, agent},
+          m_calls) {
     ZelCommon::Fakes::FakeJournal* journal = &process.journal;
     for (ZelCommon::Fakes::JournalNotes* fake :
          std::initializer_list<ZelCommon::Fakes::JournalNotes*>{
