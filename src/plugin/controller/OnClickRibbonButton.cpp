@@ -15,6 +15,11 @@ int32_t Low32(uint64_t value) {
     return static_cast<int32_t>(static_cast<uint32_t>(value & 0xFFFFFFFFu));
 }
 
+// An id the host never gave (the ribbon failed or is absent) is 0 and matches nothing.
+bool IsGiven(int32_t clicked, int32_t given) {
+    return given != 0 && clicked == given;
+}
+
 }  // namespace
 
 intptr_t CToolBarController::OnClickRibbonButton(uintptr_t wParam, intptr_t lParam) {
@@ -22,12 +27,12 @@ intptr_t CToolBarController::OnClickRibbonButton(uintptr_t wParam, intptr_t lPar
     Log(L"@@@ %s  IN", kName);
     const int32_t group = Low32(wParam);
     const int32_t button = Low32(static_cast<uint64_t>(lParam));
-    if (group == m_ribbonIds.group) {
-        if (button == m_ribbonIds.logo) {
+    if (IsGiven(group, m_ribbonIds.group)) {
+        if (IsGiven(button, m_ribbonIds.logo)) {
             OnLogoClicked();
-        } else if (button == m_ribbonIds.reportSpam) {
+        } else if (IsGiven(button, m_ribbonIds.reportSpam)) {
             m_parts.agent.SendButtonCommand(AgentMessage::ReportSpam);
-        } else if (button == m_ribbonIds.notSpam) {
+        } else if (IsGiven(button, m_ribbonIds.notSpam)) {
             m_parts.agent.SendButtonCommand(AgentMessage::ReportNotSpam);
         } else {
             Log(L"@@@ %s, Button ID [%ld] is not handled", kName, button);

@@ -22,15 +22,19 @@ uint64_t ReadLittleEndian64(std::span<const std::byte> bytes) {
 
 intptr_t CToolBarController::OnCopyData(uintptr_t copyDataId, std::span<const std::byte> payload) {
     std::lock_guard lock(m_copyDataLock);
-    if (copyDataId != kDeleteAllSpamCopyDataId || payload.size() < kDeleteAllSpamPayloadSize) {
-        Log(L"@@@ CToolBarWnd::OnCopyData() ignored dwData=[%Iu], cbData=[%Iu]", copyDataId,
-            payload.size());
+    if (m_copyDataRunning || copyDataId != kDeleteAllSpamCopyDataId ||
+        payload.size() < kDeleteAllSpamPayloadSize) {
         return 0;
     }
     const uint64_t folderId = ReadLittleEndian64(payload.subspan(0, 8));
     const uint64_t messageId = ReadLittleEndian64(payload.subspan(8, 8));
     const bool all = payload[16] != std::byte{0};
     if (all) {
+        m_copyDataRunning = true;
+        const struct Done {
+            bool& running;
+            ~Done() { running = false; }
+        } done{m_copyDataRunning};
         m_parts.spamFolder.ProcDeleteAllSpamMsg(folderId, messageId, true);
     }
     return 0;

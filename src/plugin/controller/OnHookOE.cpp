@@ -13,8 +13,7 @@ intptr_t CToolBarController::OnHookOE(ZelCommon::Platform::WindowHandle mainWind
         return 0;
     }
     if (!m_ports.hook.InstallHook(mainWindow)) {
-        // Nothing was replaced, so there is nothing to put back later.
-        m_savedProcedure = 0;
+        // The procedure stays saved, so a second request finds it and leaves the window alone.
         return 0;
     }
     m_hookedWindow = mainWindow;

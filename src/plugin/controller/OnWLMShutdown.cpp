@@ -23,6 +23,12 @@ void CToolBarController::OnWLMShutdown() {
     Log(L"@@@ %s  OUT", L"CToolBarWnd::OnWLMShutdown");
 }
 
+void CToolBarController::ReleaseHostAtUnload() {
+    UnadviseLogged([this] { m_ports.host.UnadviseApiSink(); });
+    UnadviseLogged([this] { m_ports.host.UnadviseInitSink(); });
+    m_ports.host.ReleaseInitObject();
+}
+
 void CToolBarController::OnClose() {
     Log(L"@@@ %s  IN", L"CToolBarWnd::OnClose");
     // The shut-down handling may still be running when the host posts the close: give it time,

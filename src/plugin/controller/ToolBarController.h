@@ -82,6 +82,11 @@ public:
     intptr_t OnCopyData(uintptr_t copyDataId, std::span<const std::byte> payload);
     void OnTimer();
     intptr_t OnBuildUI();
+    // The add-in is unloaded while the host still holds its sinks (the mail client never shut
+    // it down): unadvises them and releases the host's objects, so that nothing of the host
+    // calls into the unloaded image. It neither waits for the shutdown event (the host will
+    // never signal it) nor shuts COM or GDI+ down, which the loader lock forbids.
+    void ReleaseHostAtUnload();
     intptr_t OnHookOE(ZelCommon::Platform::WindowHandle mainWindow);
     intptr_t OnUnhookOE();
     void OnTearDownClassicUi();
@@ -136,8 +141,10 @@ private:
     RibbonIds m_ribbonIds;
     ZelCommon::Platform::WindowHandle m_hookedWindow = 0;
     ZelCommon::Platform::WindowProcedure m_savedProcedure = 0;
-    // Windows' critical sections may be entered again by the same thread.
+    // Windows' critical sections may be entered again by the same thread: a delete-all that
+    // pumps messages may receive the next request while it runs, and must not start it.
     std::recursive_mutex m_copyDataLock;
+    bool m_copyDataRunning = false;
 };
 
 }  // namespace Orva::Plugin

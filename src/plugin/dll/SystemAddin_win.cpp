@@ -43,6 +43,13 @@ bool CSystemController::Open() {
     return m_window != nullptr;
 }
 
+void CSystemController::Close() {
+    if (m_window) {
+        m_window->Controller().ReleaseHostAtUnload();
+    }
+    m_window.reset();
+}
+
 void CSystemController::SetMailClientWindow(WindowHandle window) {
     if (m_window) {
         m_window->SetMailClientWindow(window);

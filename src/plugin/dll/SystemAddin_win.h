@@ -31,10 +31,10 @@ public:
     bool Open() override;
     bool Exists() const override { return m_window && m_window->Exists(); }
     // The exit runs at unload, under the loader lock, where the controller's own close (a wait
-    // for the host and COM calls) must not run: the window goes, with its class and the hook on
-    // the mail client's window, so nothing calls into the unloaded image; the host's objects are
-    // left to the process.
-    void Close() override { m_window.reset(); }
+    // for a shutdown the host will never signal, COM's and GDI+'s shut-down) must not run: the
+    // host's sinks are unadvised and its objects released, and the window goes with its class
+    // and the hook on the mail client's window, so nothing calls into the unloaded image.
+    void Close() override;
     void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) override;
 
 private:

@@ -71,8 +71,9 @@ std::optional<CHostConnection> ConnectSink(IUnknown& object, CDispatchSink& sink
     const std::optional<IID> iid = FindEventIid(object);
     ComPtr<IConnectionPointContainer> container;
     ComPtr<IConnectionPoint> point;
-    if (!iid || FAILED(object.QueryInterface(IID_PPV_ARGS(&container))) ||
-        FAILED(container->FindConnectionPoint(*iid, &point))) {
+    // A host may report success and hand back nothing.
+    if (!iid || FAILED(object.QueryInterface(IID_PPV_ARGS(&container))) || container == nullptr ||
+        FAILED(container->FindConnectionPoint(*iid, &point)) || point == nullptr) {
         return std::nullopt;
     }
     if (const ComPtr<ITypeInfo> events = FindEventTypeInfo(object); events != nullptr) {

@@ -89,6 +89,32 @@ TEST(ControllerClose, WithoutShutdown_WaitsTenSecondsThenClosesAnyway) {
                             L"host UninitializeCom", L"strings release"));
 }
 
+// Unloaded before the mail client shut it down: both sinks go, nothing waits or shuts COM down.
+TEST(ControllerUnload, StillAdvised_UnadvisesBothSinksWithoutWaiting) {
+    for (const bool apiUnadviseFails : {false, true}) {
+        SCOPED_TRACE(apiUnadviseFails);
+        ControllerRig rig;
+        rig.Dispatch(1);
+        rig.Dispatch(4029);
+        ASSERT_TRUE(rig.host.InitSinkAdvised());
+        ASSERT_TRUE(rig.host.ApiSinkAdvised());
+        if (apiUnadviseFails) {
+            rig.host.ThrowOnUnadvise(FakeHostObjects::Throw::HostError, "gone");
+        }
+        rig.journal.Clear();
+
+        rig.Controller().ReleaseHostAtUnload();
+
+        EXPECT_FALSE(rig.host.InitSinkAdvised());
+        EXPECT_FALSE(rig.host.ApiSinkAdvised());
+        for (const std::wstring& entry : rig.Journal()) {
+            EXPECT_EQ(entry.find(L"event wait"), std::wstring::npos);
+            EXPECT_EQ(entry.find(L"UninitializeCom"), std::wstring::npos);
+            EXPECT_EQ(entry.find(L"ShutdownGdiplus"), std::wstring::npos);
+        }
+    }
+}
+
 TEST(ControllerClose, UnadviseRaises_StillReleasesEverything) {
     ControllerRig rig;
     rig.shutdownDone.SignalDuringWaits(true);

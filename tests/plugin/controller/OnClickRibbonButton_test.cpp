@@ -69,6 +69,17 @@ TEST(ControllerClick, EntryFive_LoggedAsUnhandledEvent) {
                             kOut));
 }
 
+// Without a ribbon every id is 0: a click of (0, 0) is none of the host's buttons.
+TEST(ControllerClick, NoRibbon_IdsNeverGivenMatchNothing) {
+    ControllerRig rig;
+    rig.AddAgent();
+    EXPECT_EQ(rig.Dispatch(kClick, 0, 0), 0);
+    EXPECT_THAT(
+        rig.Journal(),
+        ElementsAre(kIn, LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton, Unknow parameter"),
+                    kOut));
+}
+
 TEST(ControllerClick, OtherGroup_UnknownParameter) {
     BuiltRig rig;
     rig.Dispatch(kClick, 7, 108);

@@ -54,15 +54,17 @@ TEST(ControllerHook, ProcedureUnreadable_ReturnsZero) {
     EXPECT_EQ(rig.Controller().HookedWindow(), 0u);
 }
 
-TEST(ControllerHook, HookRefused_ReturnsZeroAndTheNextRequestTriesAgain) {
+TEST(ControllerHook, HookRefused_ReturnsZeroAndKeepsTheSavedProcedure) {
     ControllerRig rig;
     rig.hook.SetProcedure(kMain, kOriginal);
     rig.hook.FailInstalls(true);
     EXPECT_EQ(rig.Dispatch(kHook, kMain), 0);
     EXPECT_EQ(rig.Controller().HookedWindow(), 0u);
+    EXPECT_EQ(rig.Controller().SavedProcedure(), kOriginal);
+    // A procedure is saved: the next request changes nothing.
     rig.hook.FailInstalls(false);
     EXPECT_EQ(rig.Dispatch(kHook, kMain), 1);
-    EXPECT_EQ(rig.hook.ProcedureOf(kMain), FakeWindowProcedureHook::kHookProcedure);
+    EXPECT_EQ(rig.hook.ProcedureOf(kMain), kOriginal);
 }
 
 TEST(ControllerUnhook, Windows6_PutsTheProcedureBack) {

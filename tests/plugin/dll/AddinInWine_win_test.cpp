@@ -12,9 +12,9 @@
 #include "common_src/platform/Path.h"
 #include "common_src/platform/TextCodec.h"
 #include "common_src/platform/UniqueHandle_win.h"
+#include "plugin/host/FakeHostObject_win.h"
 #include "plugin/protocol/AgentProtocol.h"
 #include "plugin/protocol/ControllerProtocol.h"
-#include "plugin/host/FakeHostObject_win.h"
 #include "support/FileBytes.h"
 #include "support/MessagePump_win.h"
 #include "support/ProgramFolder.h"
@@ -277,6 +277,28 @@ TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
         EXPECT_EQ(init.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
         EXPECT_EQ(api.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
         addin.reset();
+        EXPECT_EQ(init.object.references, 0u);
+        EXPECT_EQ(api.object.references, 0u);
+    }
+    ::CoUninitialize();
+}
+
+// Unloaded while the mail client still runs: the host must not keep sinks whose code is gone.
+TEST_F(AddinInWine, UnloadBeforeTheHostsShutdown_UnadvisesAndReleasesTheHostsObjects) {
+    ASSERT_NE(addin, nullptr) << ::GetLastError();
+    ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
+    {
+        RegisteredHostClass init(L"NktWLMailApiInit.WLMailApiInit", kInitClass);
+        RegisteredHostClass api(L"NktWLMailApi.WLMailApi", kApiClass);
+        ASSERT_EQ(InitializePlugin(), TRUE);
+        ASSERT_NE(Testing::WaitForWindowTitled(kAgentTitle), nullptr);
+        EXPECT_EQ(init.object.Fire(1, {}), S_OK);  // ready
+        ASSERT_NE(api.object.sink, nullptr) << "the API sink was not advised";
+
+        addin.reset();
+
+        EXPECT_EQ(init.object.sink, nullptr);
+        EXPECT_EQ(api.object.sink, nullptr);
         EXPECT_EQ(init.object.references, 0u);
         EXPECT_EQ(api.object.references, 0u);
     }

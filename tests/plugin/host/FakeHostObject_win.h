@@ -28,6 +28,8 @@ public:
     // Which ways of naming its event interface the object offers.
     bool enumerates = true;
     bool providesClassInfo = false;
+    // A careless host: its container reports success and hands back no connection point.
+    bool findsNullPoint = false;
     HRESULT unadviseResult = S_OK;
     Microsoft::WRL::ComPtr<ITypeInfo> classInfo;
 
@@ -73,6 +75,9 @@ public:
         *point = nullptr;
         if (iid != kEventIid) {
             return CONNECT_E_NOCONNECTION;
+        }
+        if (findsNullPoint) {
+            return S_OK;
         }
         *point = this;
         AddRef();

@@ -6,14 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "support/fakes/platform/FakeClock.h"
-#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/WindowMessaging.h"
-#include "plugin/protocol/ControllerProtocol.h"
 #include "plugin/host/HostEventRelay.h"
+#include "plugin/protocol/ControllerProtocol.h"
 #include "settings/log/DebugLog.h"
 #include "support/TempFolder.h"
 #include "support/TestWindow_win.h"
+#include "support/fakes/platform/FakeClock.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 
 namespace Orva::Testing {
 

@@ -160,14 +160,19 @@ TEST(HostObjects, HostTypeLibrary_RenumbersTheEventsItNames) {
     EXPECT_THAT(rig.events.Messages(), ElementsAre(ControllerMessageRecord{1076, 0, 6}));
 }
 
-TEST(HostObjects, EventInterfaceUnknown_AdviseFails) {
-    HostObjectsRig rig;
-    rig.object.enumerates = false;
-    const long liveBefore = CDispatchSink::LiveSinks();
-    ASSERT_TRUE(rig.host->CreateApiObject());
-    EXPECT_FALSE(rig.host->AdviseApiSink());
-    EXPECT_THAT(rig.object.calls, IsEmpty());
-    EXPECT_EQ(CDispatchSink::LiveSinks(), liveBefore);
+TEST(HostObjects, NoConnectionPoint_AdviseFailsAndKeepsNoSink) {
+    // The event interface cannot be named, or the host hands back a null connection point.
+    for (const bool nullPoint : {false, true}) {
+        SCOPED_TRACE(nullPoint);
+        HostObjectsRig rig;
+        rig.object.enumerates = nullPoint;
+        rig.object.findsNullPoint = nullPoint;
+        const long liveBefore = CDispatchSink::LiveSinks();
+        ASSERT_TRUE(rig.host->CreateApiObject());
+        EXPECT_FALSE(rig.host->AdviseApiSink());
+        EXPECT_THAT(rig.object.calls, IsEmpty());
+        EXPECT_EQ(CDispatchSink::LiveSinks(), liveBefore);
+    }
 }
 
 TEST(HostObjects, RefusedUnadvise_ThrowsTheHostsReasonAndLetsGo) {

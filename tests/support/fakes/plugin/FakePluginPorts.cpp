@@ -48,10 +48,11 @@ bool FakeHostObjects::AdviseInitSink() {
     return m_initSink;
 }
 
+// As the real objects do, our side lets go of the sink before the host may refuse.
 void FakeHostObjects::UnadviseInitSink() {
     Record(L"UnadviseInitSink");
-    MaybeThrow();
     m_initSink = false;
+    MaybeThrow();
 }
 
 void FakeHostObjects::ReleaseInitObject() {
@@ -73,9 +74,9 @@ bool FakeHostObjects::AdviseApiSink() {
 
 void FakeHostObjects::UnadviseApiSink() {
     Record(L"UnadviseApiSink");
-    MaybeThrow();
     m_apiSink = false;
     m_apiObject = false;
+    MaybeThrow();
 }
 
 void FakeHostObjects::InitializeCom() {
