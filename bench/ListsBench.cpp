@@ -1,15 +1,13 @@
 #include <benchmark/benchmark.h>
 
-#include <memory>
-
-#include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <system_error>
 #include <vector>
 
+#include "common_src/platform/AtomicFile.h"
 #include "common_src/platform/TextCodec.h"
-#include "lists/AtomicFile.h"
 #include "lists/ListFileText.h"
 #include "lists/SenderListSet.h"
 #include "lists/SenderValidation.h"
@@ -45,6 +43,12 @@ std::wstring BenchFile(const wchar_t* name) {
 void RemoveBenchFile(const std::wstring& path) {
     std::error_code ignored;
     std::filesystem::remove(std::filesystem::path(path), ignored);
+}
+
+std::string FileBytes(const std::wstring& path) {
+    std::string bytes;
+    ZelCommon::Platform::ReadWholeFile(path, bytes);
+    return bytes;
 }
 
 void FillSet(CBListSet& set, size_t count) {
@@ -95,7 +99,7 @@ BENCHMARK(BM_ListReload)->Arg(8000)->Unit(benchmark::kMicrosecond);
 void BM_ReadDecodeBaseline(benchmark::State& state) {
     const std::wstring path = SavedListFile(static_cast<size_t>(state.range(0)));
     for (auto _ : state) {
-        const std::wstring text = Orva::Lists::DecodeListText(*Orva::Lists::ReadWholeFile(path));
+        const std::wstring text = Orva::Lists::DecodeListText(FileBytes(path));
         benchmark::DoNotOptimize(text.data());
     }
     RemoveBenchFile(path);
@@ -121,12 +125,12 @@ BENCHMARK(BM_ListSave)->Arg(8000)->Unit(benchmark::kMicrosecond);
 // The floor of a save: writing the bytes the save writes, in place, with no encoding.
 void BM_WriteBytesBaseline(benchmark::State& state) {
     const std::wstring saved = SavedListFile(static_cast<size_t>(state.range(0)));
-    const std::string bytes = *Orva::Lists::ReadWholeFile(saved);
+    const std::string bytes = FileBytes(saved);
     RemoveBenchFile(saved);
     const std::wstring path = BenchFile(L"orva-bench-bytes-BlackList.dat");
     for (auto _ : state) {
-        const auto file = Orva::Lists::FileSystem::OpenFile(path, L"wb");
-        std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+        std::ofstream file(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
+        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     }
     RemoveBenchFile(path);
     state.SetItemsProcessed(state.iterations() * state.range(0));

@@ -2,9 +2,10 @@
 
 #include <limits>
 #include <optional>
+#include <string>
 
+#include "common_src/platform/AtomicFile.h"
 #include "common_src/platform/WideFormat.h"
-#include "lists/AtomicFile.h"
 #include "lists/ListFileText.h"
 #include "lists/ListKinds.h"
 
@@ -111,13 +112,13 @@ std::wstring CEncodingSet::Format() const {
 
 void CEncodingSet::Load(const std::wstring& path) {
     Clear();
-    if (const std::optional<std::string> bytes = ReadWholeFile(path)) {
-        Parse(DecodeListText(*bytes));
+    if (std::string bytes; ZelCommon::Platform::ReadWholeFile(path, bytes) == 0) {
+        Parse(DecodeListText(bytes));
     }
 }
 
 void CEncodingSet::Save(const std::wstring& path) const {
-    ReplaceFileContents(path, EncodeListText(Format()));
+    ZelCommon::Platform::ReplaceFileContents(path, EncodeListText(Format()));
 }
 
 }  // namespace Orva::Lists

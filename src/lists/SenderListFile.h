@@ -1,10 +1,9 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
-#include "lists/AtomicFile.h"
+#include "common_src/platform/AtomicFile.h"
 #include "lists/ListFileText.h"
 #include "lists/ListKinds.h"
 #include "lists/ListPersist.h"
@@ -36,12 +35,12 @@ struct SenderListFile {
     // is missing or its first line holds no accepted header.
     template <class Add>
     static void Read(const std::wstring& path, Add&& add) {
-        const std::optional<std::string> bytes = ReadWholeFile(path);
-        if (!bytes) {
+        std::string bytes;
+        if (ZelCommon::Platform::ReadWholeFile(path, bytes) != 0) {
             return;
         }
         bool first = true;
-        ForEachLine(SkipUtf8Mark(*bytes), [&](std::string_view line) {
+        ForEachLine(SkipUtf8Mark(bytes), [&](std::string_view line) {
             if (first) {
                 first = false;
                 return HasAcceptedHeader(line);
@@ -83,7 +82,7 @@ struct SenderListFile {
 
     // False when the file could not be replaced; the old file then stays as it was.
     static bool Write(const std::wstring& path, std::string_view bytes) {
-        return ReplaceFileContents(path, bytes);
+        return ZelCommon::Platform::ReplaceFileContents(path, bytes) == 0;
     }
 };
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ListTestFiles.h"
+#include "lists/SenderListFile.h"
 #include "lists/SenderListSet.h"
 
 namespace Orva::Lists {
@@ -72,6 +73,22 @@ TEST_F(SenderListFileTest, Save_UnwritableLocationReportsSuccessAndCreatesNothin
     const std::wstring path = m_folder.File(L"missing-folder") + L"/BlackList.dat";
     EXPECT_EQ(1, set.Save(path));
     EXPECT_EQ(0u, m_folder.FileCount());
+}
+
+// A name of 250 bytes leaves no room under the limit of 255 for the temporary name beside it, so
+// the save fails whoever runs it (root too). The old file stays exactly as it was.
+TEST_F(SenderListFileTest, Write_TemporaryFileCannotBeCreated_OldFileUnchangedAndFailureReported) {
+    const std::wstring path = m_folder.File(std::wstring(246, L'b') + L".dat");
+    const std::string old = std::string(kHeader) + "\n" + BlockedRecord("", "old@b.com") + "\n";
+    WriteFileBytes(path, old);
+    ASSERT_EQ(old, ReadFileBytes(path));
+    CBListSet set;
+    set.Add(L"new@b.com", {L"", L"new@b.com"});
+    EXPECT_FALSE(SenderListFile<BlockedList>::Write(
+        path, SenderListFile<BlockedList>::Format(set.Entries())));
+    EXPECT_EQ(1, set.Save(path));
+    EXPECT_EQ(old, ReadFileBytes(path));
+    EXPECT_EQ(1u, m_folder.FileCount());
 }
 
 TEST_F(SenderListFileTest, Save_ReplacesOldFileAndLeavesNoTemporaryFile) {

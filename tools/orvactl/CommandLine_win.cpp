@@ -2,22 +2,14 @@
 // shellapi.h needs the declarations of windows.h first.
 #include <shellapi.h>
 
-#include <memory>
-
 #include "CommandLine.h"
+#include "common_src/platform/UniqueAny_win.h"
 
 namespace Orva::Orvactl {
-namespace {
-
-struct LocalFreeDeleter {
-    void operator()(LPWSTR* block) const { LocalFree(block); }
-};
-
-}  // namespace
 
 std::vector<std::wstring> CommandLineArguments(int, char**) {
     int count = 0;
-    const std::unique_ptr<LPWSTR, LocalFreeDeleter> argv(
+    const ZelCommon::Platform::unique_hlocal_ptr<LPWSTR> argv(
         CommandLineToArgvW(GetCommandLineW(), &count));
     std::vector<std::wstring> args;
     if (!argv) {

@@ -6,10 +6,10 @@
 
 #include "CommandErrors.h"
 #include "Orvactl.h"
+#include "common_src/platform/AtomicFile.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/TextCodec.h"
 #include "common_src/platform/WideFormat.h"
-#include "lists/AtomicFile.h"
 #include "lists/ListFileText.h"
 #include "lists/SenderListFile.h"
 #include "lists/SenderListSet.h"
@@ -66,15 +66,15 @@ std::wstring RefusalReason(Lists::SenderCheck check) {
 template <class Kind>
 std::optional<std::wstring> LoadList(const std::wstring& path, CSenderListSet<Kind>& set,
                                      bool mayBeMissing) {
-    const std::optional<std::string> bytes = Lists::ReadWholeFile(path);
-    if (!bytes) {
+    std::string bytes;
+    if (ZelCommon::Platform::ReadWholeFile(path, bytes) != 0) {
         if (mayBeMissing && !ZelCommon::Path::FileExists(path) &&
             !ZelCommon::Path::FolderExists(path)) {
             return std::nullopt;
         }
         return path + L": cannot be read";
     }
-    const std::string_view text = Lists::SkipUtf8Mark(*bytes);
+    const std::string_view text = Lists::SkipUtf8Mark(bytes);
     if (!Lists::HasAcceptedHeader(text.substr(0, text.find('\n')))) {
         return path + L": not a sender list file (its first line is not a list header)";
     }
@@ -138,14 +138,14 @@ std::optional<std::vector<std::wstring>> CsvFields(std::wstring_view line) {
 
 // A text file of a peer's export: UTF-8 with or without a byte-order mark, or UTF-16 with one.
 std::optional<std::wstring> ReadTextFile(const std::wstring& path) {
-    const std::optional<std::string> bytes = Lists::ReadWholeFile(path);
-    if (!bytes) {
+    std::string bytes;
+    if (ZelCommon::Platform::ReadWholeFile(path, bytes) != 0) {
         return std::nullopt;
     }
-    if (bytes->starts_with("\xFF\xFE")) {
-        return ZelCommon::Text::Utf16LeToWide(std::string_view(*bytes).substr(2));
+    if (bytes.starts_with("\xFF\xFE")) {
+        return ZelCommon::Text::Utf16LeToWide(std::string_view(bytes).substr(2));
     }
-    return Lists::DecodeListText(*bytes);
+    return Lists::DecodeListText(bytes);
 }
 
 template <class Kind>

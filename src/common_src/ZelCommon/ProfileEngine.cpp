@@ -140,8 +140,8 @@ std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* 
         return nullptr;
     }
     const std::wstring path(file);
-    ProfileFile::FileStamp stamp;
-    uint32_t error = ProfileFile::QueryStamp(path, stamp);
+    Platform::FileStamp stamp;
+    uint32_t error = Platform::QueryFileStamp(path, stamp);
     if (error == 0) {
         auto cached = m_cache.find(path);
         if (cached != m_cache.end() && cached->second.stamp == stamp &&
@@ -149,7 +149,7 @@ std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* 
             return cached->second.document;
         }
         std::string bytes;
-        error = ProfileFile::ReadWholeFile(path, bytes, stamp);
+        error = Platform::ReadWholeFile(path, bytes, &stamp);
         if (error == 0) {
             cached = m_cache.find(path);
             if (cached != m_cache.end() && cached->second.bytes == bytes) {
@@ -165,7 +165,7 @@ std::shared_ptr<const ProfileFile::Document> ProfileEngine::Load(const wchar_t* 
 }
 
 std::shared_ptr<const ProfileFile::Document> ProfileEngine::Remember(
-    const std::wstring& path, const ProfileFile::FileStamp& stamp, std::string bytes) {
+    const std::wstring& path, const Platform::FileStamp& stamp, std::string bytes) {
     auto document = std::make_shared<const Document>(ProfileFile::ParseDocument(bytes));
     if (m_cache.size() >= kMaxCachedFiles && m_cache.find(path) == m_cache.end()) {
         m_cache.clear();
@@ -177,8 +177,8 @@ std::shared_ptr<const ProfileFile::Document> ProfileEngine::Remember(
 bool ProfileEngine::Save(const wchar_t* file, const Document& document) {
     const std::wstring path(file);
     const std::string bytes = ProfileFile::SerializeDocument(document);
-    ProfileFile::FileStamp stamp;
-    const uint32_t error = ProfileFile::ReplaceWholeFile(path, bytes, stamp);
+    Platform::FileStamp stamp;
+    const uint32_t error = Platform::ReplaceFileContents(path, bytes, &stamp);
     if (error != 0) {
         m_cache.erase(path);
         SetLastError(error);

@@ -9,6 +9,7 @@
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/ZelCommon/ProfileDocument.h"
 #include "common_src/ZelCommon/ProfileFileSystem.h"
+#include "common_src/platform/AtomicFile.h"
 
 namespace ZelCommon::Storage {
 
@@ -38,7 +39,7 @@ public:
 private:
     using Document = ProfileFile::Document;
     struct CachedFile {
-        ProfileFile::FileStamp stamp;
+        Platform::FileStamp stamp;
         std::string bytes;
         std::shared_ptr<const Document> document;
     };
@@ -48,8 +49,7 @@ private:
     // it cannot be read.
     std::shared_ptr<const Document> Load(const wchar_t* file);
     std::shared_ptr<const Document> Remember(const std::wstring& path,
-                                             const ProfileFile::FileStamp& stamp,
-                                             std::string bytes);
+                                             const Platform::FileStamp& stamp, std::string bytes);
     bool Save(const wchar_t* file, const Document& document);
 
     uint32_t GetStringLocked(const wchar_t* section, const wchar_t* key,

@@ -1,7 +1,7 @@
 #include <windows.h>
 
 #include "common_src/platform/Event.h"
-#include "common_src/platform/UniqueHandle_win.h"
+#include "common_src/platform/UniqueAny_win.h"
 
 namespace ZelCommon::Platform {
 namespace {
@@ -21,7 +21,7 @@ public:
     }
 
 private:
-    UniqueHandle m_handle;
+    unique_handle m_handle;
 };
 
 }  // namespace

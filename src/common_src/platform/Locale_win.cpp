@@ -1,10 +1,9 @@
 #include <windows.h>
 
-#include <memory>
 #include <string>
-#include <type_traits>
 
 #include "common_src/platform/Locale.h"
+#include "common_src/platform/UniqueAny_win.h"
 
 namespace ZelCommon::Platform {
 namespace {
@@ -13,11 +12,6 @@ namespace {
 using LcidToNameFunction = int(WINAPI*)(LCID, LPWSTR, int, DWORD);
 
 constexpr int kLocaleNameMaxLength = 85;  // LOCALE_NAME_MAX_LENGTH
-
-struct LibraryCloser {
-    void operator()(HMODULE module) const { ::FreeLibrary(module); }
-};
-using UniqueLibrary = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
 
 template <class Function>
 Function ProcOf(HMODULE module, const char* name) {
@@ -55,7 +49,7 @@ public:
     }
 
 private:
-    UniqueLibrary m_downlevel;
+    unique_hmodule m_downlevel;
     LcidToNameFunction m_convert = nullptr;
 };
 

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "common_src/platform/TextCodec.h"
+
 namespace ZelCommon::Path {
 namespace {
 
@@ -11,7 +13,13 @@ bool IsSeparator(wchar_t c) {
 }
 
 std::filesystem::path ToFsPath(const std::wstring& path) {
+#ifdef _WIN32
     return std::filesystem::path(path);
+#else
+    // A Linux path's bytes are UTF-8 whatever the C locale (in which a wide path with a
+    // character outside ASCII does not convert at all).
+    return std::filesystem::path(Text::WideToUtf8(path));
+#endif
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "common_src/platform/ProcessLauncher.h"
-#include "common_src/platform/UniqueHandle_win.h"
+#include "common_src/platform/UniqueAny_win.h"
 
 namespace ZelCommon::Platform {
 namespace {
@@ -25,8 +25,8 @@ public:
                 return false;
             }
             // Nobody waits for the child: both handles go at once.
-            const UniqueHandle process(info.hProcess);
-            const UniqueHandle thread(info.hThread);
+            const unique_handle process(info.hProcess);
+            const unique_handle thread(info.hThread);
             return true;
         } catch (...) {
             return false;

@@ -3,8 +3,7 @@
 namespace ZelCommon::Win32 {
 
 void ResourceHandle::Reset() {
-    m_module.reset();
-    m_path.clear();
+    *this = ResourceHandle();
 }
 
 }  // namespace ZelCommon::Win32

@@ -10,28 +10,27 @@ namespace ZelCommon::Win32 {
 // the file's existence is checked. Move-only; the module is freed with its owner.
 class ResourceHandle {
 public:
-    ResourceHandle() = default;
-    ResourceHandle(ResourceHandle&&) noexcept = default;
-    ResourceHandle& operator=(ResourceHandle&&) noexcept = default;
+    ResourceHandle();
+    ResourceHandle(ResourceHandle&&) noexcept;
+    ResourceHandle& operator=(ResourceHandle&&) noexcept;
     ResourceHandle(const ResourceHandle&) = delete;
     ResourceHandle& operator=(const ResourceHandle&) = delete;
-    ~ResourceHandle() = default;
+    ~ResourceHandle();
 
     // Frees what was loaded before, then loads `path`; returns whether it is loaded.
     bool Load(const std::wstring& path);
     void Reset();
 
-    bool IsLoaded() const { return static_cast<bool>(m_module); }
+    bool IsLoaded() const { return m_module != nullptr; }
     // The HMODULE on Windows, for the resource functions; null while nothing is loaded.
-    void* Module() const { return m_module.get(); }
+    void* Module() const;
     const std::wstring& Path() const { return m_path; }
 
 private:
-    struct Closer {
-        void operator()(void* module) const;
-    };
+    // The module as each platform holds it.
+    struct Loaded;
 
-    std::unique_ptr<void, Closer> m_module;
+    std::unique_ptr<Loaded> m_module;
     std::wstring m_path;
 };
 

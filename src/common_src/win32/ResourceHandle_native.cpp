@@ -2,21 +2,25 @@
 #include "common_src/win32/ResourceHandle.h"
 
 namespace ZelCommon::Win32 {
-namespace {
 
-// Stands for a loaded module: there are no resource modules to map natively.
-int g_loadedMarker = 0;
+// There are no resource modules to map natively: an existing file counts as loaded.
+struct ResourceHandle::Loaded {};
 
-}  // namespace
+ResourceHandle::ResourceHandle() = default;
+ResourceHandle::ResourceHandle(ResourceHandle&&) noexcept = default;
+ResourceHandle& ResourceHandle::operator=(ResourceHandle&&) noexcept = default;
+ResourceHandle::~ResourceHandle() = default;
 
-void ResourceHandle::Closer::operator()(void*) const {}
+void* ResourceHandle::Module() const {
+    return m_module.get();
+}
 
 bool ResourceHandle::Load(const std::wstring& path) {
     Reset();
     if (!Path::FileExists(path)) {
         return false;
     }
-    m_module.reset(&g_loadedMarker);
+    m_module = std::make_unique<Loaded>();
     m_path = path;
     return true;
 }

@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include <cstdlib>
+#include <vector>
 
 #include "common_src/platform/WideFormat.h"
 #include "settings/probes/FileVersionReader.h"
@@ -11,14 +11,10 @@ namespace {
 
 constexpr std::size_t kMaxPrefixChars = 100;
 
-struct FreeDeleter {
-    void operator()(void* memory) const { std::free(memory); }
-};
-
 }  // namespace
 
 struct FileVersionReader::Block {
-    std::unique_ptr<void, FreeDeleter> data;
+    std::vector<BYTE> data;
 };
 
 FileVersionReader::FileVersionReader(const std::wstring& filePath) {
@@ -27,8 +23,8 @@ FileVersionReader::FileVersionReader(const std::wstring& filePath) {
     if (size == 0) {
         return;
     }
-    std::unique_ptr<void, FreeDeleter> data(std::malloc(size));
-    if (!data || !GetFileVersionInfoW(filePath.c_str(), 0, size, data.get())) {
+    std::vector<BYTE> data(size);
+    if (!GetFileVersionInfoW(filePath.c_str(), 0, size, data.data())) {
         return;
     }
     struct Translation {
@@ -37,7 +33,7 @@ FileVersionReader::FileVersionReader(const std::wstring& filePath) {
     };
     void* found = nullptr;
     UINT foundBytes = 0;
-    if (!VerQueryValueW(data.get(), L"\\VarFileInfo\\Translation", &found, &foundBytes) ||
+    if (!VerQueryValueW(data.data(), L"\\VarFileInfo\\Translation", &found, &foundBytes) ||
         found == nullptr || foundBytes < sizeof(Translation)) {
         return;
     }
@@ -63,7 +59,7 @@ std::optional<std::wstring> FileVersionReader::Query(const std::wstring& name) c
     const std::wstring path = ZelCommon::Text::Format(L"%s%s", m_prefix, name);
     void* found = nullptr;
     UINT chars = 0;
-    if (!VerQueryValueW(m_block->data.get(), path.c_str(), &found, &chars) || found == nullptr) {
+    if (!VerQueryValueW(m_block->data.data(), path.c_str(), &found, &chars) || found == nullptr) {
         return std::nullopt;
     }
     // The length counts the terminator when there is one; never read past it.

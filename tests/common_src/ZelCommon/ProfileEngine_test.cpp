@@ -3,12 +3,14 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "ProfileCases.h"
 #include "common_src/ZelCommon/ProfileEngine.h"
+#include "support/FileBytes.h"
 
 namespace ZelCommon::Storage::Testing {
 namespace {
@@ -134,6 +136,23 @@ TEST_F(ProfileEngineFiles, WriteThenRead_SeesTheFileAsWritten) {
     EXPECT_EQ(Get(L"s", L"k"), L"v");
     ASSERT_TRUE(m_engine.WriteString(L"s", L"k", L"v", m_file.c_str()));
     EXPECT_EQ(Get(L"s", L"k"), L"v");
+}
+
+// A name of 250 bytes leaves no room under the limit of 255 for the temporary name beside it, so
+// the write fails whoever runs it (root too). The old file stays exactly as it was.
+TEST_F(ProfileEngineFiles, TemporaryFileCannotBeCreated_OldFileUnchangedAndFailureReported) {
+    const std::filesystem::path path = m_folder / (std::string(246, 's') + ".ini");
+    const std::string old = "[s]\r\nk=1\r\n";
+    {
+        std::ofstream out(path, std::ios::binary);
+        out << old;
+    }
+    EXPECT_EQ(old, Orva::Testing::ReadFileBytes(path));
+    EXPECT_FALSE(m_engine.WriteString(L"s", L"k", L"2", path.wstring().c_str()));
+    EXPECT_NE(0u, m_engine.LastError());
+    EXPECT_EQ(old, Orva::Testing::ReadFileBytes(path));
+    EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(m_folder),
+                               std::filesystem::directory_iterator()));
 }
 
 TEST_F(ProfileEngineFiles, ManyThreadsWriting_NoUpdateLost) {

@@ -6,24 +6,22 @@
 #include <gtest/gtest.h>
 #include <sddl.h>
 
-#include <memory>
 #include <vector>
 
 #include "common_src/ZelCommon/Registry.h"
 #include "common_src/ZelCommon/RegistryApiContract.h"
+#include "common_src/platform/UniqueAny_win.h"
 
 namespace ZelCommon::AccessControl {
 namespace {
 
+using Platform::unique_hkey;
+using Platform::unique_hlocal;
 using Storage::RegRoot;
 using Storage::Testing::RegistrySandbox;
 
 constexpr DWORD kUserRights = KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY |
                               KEY_ENUMERATE_SUB_KEYS | KEY_NOTIFY | READ_CONTROL;
-
-struct LocalFreeDeleter {
-    void operator()(void* memory) const { LocalFree(memory); }
-};
 
 struct Entry {
     std::vector<BYTE> sid;
@@ -61,18 +59,18 @@ KeySecurity ReadDescriptor(PSECURITY_DESCRIPTOR descriptor) {
 }
 
 KeySecurity ReadKeySecurity(const std::wstring& path) {
-    HKEY key = nullptr;
-    EXPECT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, READ_CONTROL, &key), ERROR_SUCCESS);
-    if (key == nullptr) {
+    unique_hkey key;
+    EXPECT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, READ_CONTROL, key.put()),
+              ERROR_SUCCESS);
+    if (!key) {
         return {};
     }
     DWORD size = 0;
-    EXPECT_EQ(RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, nullptr, &size),
+    EXPECT_EQ(RegGetKeySecurity(key.get(), DACL_SECURITY_INFORMATION, nullptr, &size),
               ERROR_INSUFFICIENT_BUFFER);
     std::vector<BYTE> buffer(size);
-    EXPECT_EQ(RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, buffer.data(), &size),
+    EXPECT_EQ(RegGetKeySecurity(key.get(), DACL_SECURITY_INFORMATION, buffer.data(), &size),
               ERROR_SUCCESS);
-    RegCloseKey(key);
     return ReadDescriptor(buffer.data());
 }
 
@@ -84,11 +82,10 @@ bool RunningUnderWine() {
 }
 
 std::vector<BYTE> Sid(const wchar_t* sddlName) {
-    PSID sid = nullptr;
-    EXPECT_TRUE(ConvertStringSidToSidW(sddlName, &sid));
-    std::unique_ptr<void, LocalFreeDeleter> owner(sid);
-    const auto* bytes = static_cast<const BYTE*>(sid);
-    return std::vector<BYTE>(bytes, bytes + GetLengthSid(sid));
+    unique_hlocal sid;
+    EXPECT_TRUE(ConvertStringSidToSidW(sddlName, sid.put()));
+    const auto* bytes = static_cast<const BYTE*>(sid.get());
+    return std::vector<BYTE>(bytes, bytes + GetLengthSid(sid.get()));
 }
 
 void ExpectOurEntries(const KeySecurity& security, BYTE extraFlags) {
@@ -139,15 +136,14 @@ TEST(SecurityAttributesWin32, BadSddl_ThrowsAccessControlException) {
 // Puts our descriptor on a fresh key below the sandbox and returns the key's path.
 std::wstring SecureKey(const RegistrySandbox& sandbox) {
     const std::wstring path = sandbox.Path() + L"\\Secured";
-    HKEY key = nullptr;
+    unique_hkey key;
     EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
-                              nullptr, &key, nullptr),
+                              nullptr, key.put(), nullptr),
               ERROR_SUCCESS);
     SecurityAttributes attributes;
     const auto* sa = static_cast<const SECURITY_ATTRIBUTES*>(attributes.Get());
-    EXPECT_EQ(RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, sa->lpSecurityDescriptor),
+    EXPECT_EQ(RegSetKeySecurity(key.get(), DACL_SECURITY_INFORMATION, sa->lpSecurityDescriptor),
               ERROR_SUCCESS);
-    RegCloseKey(key);
     return path;
 }
 
@@ -162,11 +158,10 @@ TEST(SecurityAttributesWin32, SubkeyOfSecuredKey_InheritsTheEntries) {
     }
     RegistrySandbox sandbox(Storage::SystemRegistryApi());
     const std::wstring path = SecureKey(sandbox);
-    HKEY child = nullptr;
+    unique_hkey child;
     ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, (path + L"\\Child").c_str(), 0, nullptr, 0,
-                              KEY_READ, nullptr, &child, nullptr),
+                              KEY_READ, nullptr, child.put(), nullptr),
               ERROR_SUCCESS);
-    RegCloseKey(child);
     ExpectOurEntries(ReadKeySecurity(path + L"\\Child"), INHERITED_ACE);
 }
 

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "common_src/platform/UniqueAny_win.h"
 #include "plugin/protocol/AgentProtocol.h"
 
 namespace Orva::Plugin {
@@ -19,13 +20,13 @@ public:
         while (const HWND agent = ::FindWindowW(nullptr, title.c_str())) {
             DWORD processId = 0;
             ::GetWindowThreadProcessId(agent, &processId);
-            const HANDLE process = ::OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, processId);
-            if (process == nullptr) {
+            const ZelCommon::Platform::unique_handle process(
+                ::OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, processId));
+            if (!process) {
                 break;
             }
-            ::TerminateProcess(process, 1);
-            ::WaitForSingleObject(process, 5000);
-            ::CloseHandle(process);
+            ::TerminateProcess(process.get(), 1);
+            ::WaitForSingleObject(process.get(), 5000);
         }
     }
 };

@@ -2,25 +2,21 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <type_traits>
+#include "common_src/platform/UniqueAny_win.h"
 
 namespace {
 
-struct LibraryCloser {
-    void operator()(HMODULE module) const { FreeLibrary(module); }
-};
-using UniqueModule = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
+using ZelCommon::Platform::unique_hmodule;
 
 // The build copies the add-in beside this test program, where LoadLibrary looks first.
-UniqueModule LoadAddin() {
-    return UniqueModule(LoadLibraryW(L"ORVA_WLMA.dll"));
+unique_hmodule LoadAddin() {
+    return unique_hmodule(LoadLibraryW(L"ORVA_WLMA.dll"));
 }
 
 // Loading alone starts nothing: the start-up waits for the host's first call.
 TEST(PluginExports, ExportsAreFoundByNameAndByOrdinal) {
-    UniqueModule addin = LoadAddin();
-    ASSERT_NE(addin, nullptr) << GetLastError();
+    const unique_hmodule addin = LoadAddin();
+    ASSERT_TRUE(addin) << GetLastError();
 
     FARPROC initialize = GetProcAddress(addin.get(), "InitializePlugin");
     ASSERT_NE(initialize, nullptr);

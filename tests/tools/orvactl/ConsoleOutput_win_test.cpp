@@ -2,17 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
-#include "common_src/platform/UniqueHandle_win.h"
+#include "common_src/platform/UniqueAny_win.h"
 #include "support/TempFolder.h"
 #include "tools/orvactl/TextSink.h"
 
 namespace Orva::Orvactl {
 namespace {
 
-using ZelCommon::Platform::UniqueHandle;
+using ZelCommon::Platform::unique_handle;
 
 // Points the standard output at a file for the life of the object.
 class RedirectedOutput {
@@ -29,15 +28,15 @@ public:
 
 private:
     HANDLE m_saved;
-    UniqueHandle m_file;
+    unique_handle m_file;
 };
 
 std::string ReadBytes(const std::wstring& path) {
-    const UniqueHandle file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const unique_handle file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     std::string bytes(4096, '\0');
     DWORD read = 0;
-    if (file.get() == INVALID_HANDLE_VALUE ||
+    if (!file ||
         !ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) {
         return "<unreadable>";
     }

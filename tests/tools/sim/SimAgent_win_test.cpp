@@ -2,13 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 #include "common_src/platform/Path.h"
-#include "common_src/platform/UniqueHandle_win.h"
+#include "common_src/platform/UniqueAny_win.h"
 #include "support/FileBytes.h"
 #include "support/MessagePump_win.h"
 #include "support/ProgramFolder.h"
@@ -20,10 +18,8 @@ namespace {
 
 constexpr wchar_t kControllerClass[] = L"{459F0EC1-7A80-47c5-A264-B8285F4041DD}";
 
-struct WindowDestroyer {
-    void operator()(HWND window) const { DestroyWindow(window); }
-};
-using UniqueWindow = std::unique_ptr<std::remove_pointer_t<HWND>, WindowDestroyer>;
+using ZelCommon::Platform::unique_handle;
+using ZelCommon::Platform::unique_hwnd;
 
 // Starts the agent beside this program as the add-in does: quoted path, then the title.
 class AgentProcess {
@@ -55,7 +51,7 @@ public:
 
 private:
     std::wstring m_title;
-    ZelCommon::Platform::UniqueHandle m_process;
+    unique_handle m_process;
 };
 
 std::wstring UniqueTitle() {
@@ -111,20 +107,20 @@ LRESULT CALLBACK ControllerProc(HWND window, UINT message, WPARAM wParam, LPARAM
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-UniqueWindow CreateController() {
+unique_hwnd CreateController() {
     WNDCLASSW windowClass{};
     windowClass.lpfnWndProc = ControllerProc;
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.lpszClassName = kControllerClass;
     RegisterClassW(&windowClass);
-    return UniqueWindow(CreateWindowExW(0, kControllerClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
-                                        nullptr, GetModuleHandleW(nullptr), nullptr));
+    return unique_hwnd(CreateWindowExW(0, kControllerClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
+                                       nullptr, GetModuleHandleW(nullptr), nullptr));
 }
 
 TEST(SimulatedAgent, DeliversCommandedMessagesToTheController) {
     Received().clear();
-    UniqueWindow controller = CreateController();
-    ASSERT_NE(controller, nullptr);
+    unique_hwnd controller = CreateController();
+    ASSERT_TRUE(controller);
     Testing::TempFolder folder;
     AgentProcess agent(UniqueTitle(), folder.File(L"record.txt"));
     const HWND window = agent.WaitForWindow();

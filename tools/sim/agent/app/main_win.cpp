@@ -6,11 +6,11 @@
 #include <shellapi.h>
 
 #include <cstdio>
-#include <memory>
 #include <span>
 #include <string>
 
 #include "common_src/platform/Path.h"
+#include "common_src/platform/UniqueAny_win.h"
 #include "tools/sim/agent/SimAgentProtocol.h"
 
 namespace {
@@ -20,13 +20,6 @@ constexpr wchar_t kControllerClass[] = L"{459F0EC1-7A80-47c5-A264-B8285F4041DD}"
 constexpr wchar_t kWindowClass[] = L"OrvaSimulatedAgent";
 constexpr UINT kFirstUserMessage = WM_USER;
 constexpr UINT kStopMessage = WM_USER + 45;  // 1069: the add-in tells the agent to stop
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-struct LocalFreer {
-    void operator()(LPWSTR* block) const { LocalFree(block); }
-};
 
 std::wstring ModuleFolder() {
     std::wstring path(MAX_PATH, L'\0');
@@ -53,7 +46,8 @@ std::wstring RecordPath() {
 // The window title comes as the only argument, as the add-in starts the agent.
 std::wstring TitleFromCommandLine() {
     int count = 0;
-    std::unique_ptr<LPWSTR, LocalFreer> args(CommandLineToArgvW(GetCommandLineW(), &count));
+    const ZelCommon::Platform::unique_hlocal_ptr<LPWSTR> args(
+        CommandLineToArgvW(GetCommandLineW(), &count));
     return (args && count > 1) ? std::wstring(args.get()[1]) : std::wstring(kAgentTitle);
 }
 
@@ -126,9 +120,9 @@ private:
 
     // Opened per line so that a test can read the record at any moment.
     void Record(const std::string& line) const {
-        std::unique_ptr<std::FILE, FileCloser> file(_wfopen(m_recordPath.c_str(), L"ab"));
-        if (file) {
-            std::fwrite(line.data(), 1, line.size(), file.get());
+        if (std::FILE* const file = _wfopen(m_recordPath.c_str(), L"ab")) {
+            std::fwrite(line.data(), 1, line.size(), file);
+            std::fclose(file);
         }
     }
 
