@@ -17,6 +17,8 @@ public:
     virtual std::wstring ExecutableFilePath() const = 0;
     // The common application-data folder (CSIDL_COMMON_APPDATA), without a final separator.
     virtual std::wstring CommonAppDataFolder() const = 0;
+    // The user's local application-data folder (CSIDL_LOCAL_APPDATA), without a final separator.
+    virtual std::wstring LocalAppDataFolder() const = 0;
     // The error code of the calling thread's last failing system call.
     virtual uint32_t LastError() const = 0;
 };

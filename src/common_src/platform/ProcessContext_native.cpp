@@ -14,6 +14,17 @@
 namespace ZelCommon::Platform {
 namespace {
 
+// Natively the machine's folders are whatever the environment names, without a final separator.
+std::wstring ConfiguredFolder(const char* variable, const char* fallback) {
+    const char* configured = std::getenv(variable);
+    std::wstring folder =
+        Text::Utf8ToWide(configured != nullptr && *configured != '\0' ? configured : fallback);
+    while (folder.size() > 1 && folder.back() == L'/') {
+        folder.pop_back();
+    }
+    return folder;
+}
+
 class NativeProcessContext final : public IProcessContext {
 public:
     uint32_t ProcessId() const override { return static_cast<uint32_t>(::getpid()); }
@@ -29,13 +40,10 @@ public:
     }
 
     std::wstring CommonAppDataFolder() const override {
-        const char* configured = std::getenv("ORVA_COMMON_APPDATA");
-        std::wstring folder = Text::Utf8ToWide(
-            configured != nullptr && *configured != '\0' ? configured : "/var/tmp");
-        while (folder.size() > 1 && folder.back() == L'/') {
-            folder.pop_back();
-        }
-        return folder;
+        return ConfiguredFolder("ORVA_COMMON_APPDATA", "/var/tmp");
+    }
+    std::wstring LocalAppDataFolder() const override {
+        return ConfiguredFolder("ORVA_LOCAL_APPDATA", "/var/tmp");
     }
 
     uint32_t LastError() const override { return static_cast<uint32_t>(errno); }

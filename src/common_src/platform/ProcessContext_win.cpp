@@ -41,6 +41,19 @@ std::wstring FileNameOf(HMODULE module) {
     }
 }
 
+// A shell folder by its CSIDL, without a final separator; empty when the shell has none.
+std::wstring SpecialFolder(int csidl) {
+    wchar_t folder[MAX_PATH] = {};
+    if (!::SHGetSpecialFolderPathW(nullptr, folder, csidl, FALSE)) {
+        return {};
+    }
+    std::wstring result(folder);
+    while (!result.empty() && result.back() == L'\\') {
+        result.pop_back();
+    }
+    return result;
+}
+
 class WindowsProcessContext final : public IProcessContext {
 public:
     uint32_t ProcessId() const override { return ::GetCurrentProcessId(); }
@@ -50,16 +63,9 @@ public:
     std::wstring ExecutableFilePath() const override { return FileNameOf(nullptr); }
 
     std::wstring CommonAppDataFolder() const override {
-        wchar_t folder[MAX_PATH] = {};
-        if (!::SHGetSpecialFolderPathW(nullptr, folder, CSIDL_COMMON_APPDATA, FALSE)) {
-            return {};
-        }
-        std::wstring result(folder);
-        while (!result.empty() && result.back() == L'\\') {
-            result.pop_back();
-        }
-        return result;
+        return SpecialFolder(CSIDL_COMMON_APPDATA);
     }
+    std::wstring LocalAppDataFolder() const override { return SpecialFolder(CSIDL_LOCAL_APPDATA); }
 
     uint32_t LastError() const override { return ::GetLastError(); }
 };

@@ -18,6 +18,7 @@ public:
     std::wstring ModuleFilePath() const override { return m_moduleFilePath; }
     std::wstring ExecutableFilePath() const override { return m_executableFilePath; }
     std::wstring CommonAppDataFolder() const override { return m_commonAppData; }
+    std::wstring LocalAppDataFolder() const override { return m_localAppData; }
     uint32_t LastError() const override { return m_lastError; }
 
     void SetProcessId(uint32_t id) { m_processId = id; }
@@ -25,6 +26,7 @@ public:
     void SetModuleFilePath(std::wstring path) { m_moduleFilePath = std::move(path); }
     void SetExecutableFilePath(std::wstring path) { m_executableFilePath = std::move(path); }
     void SetCommonAppDataFolder(std::wstring folder) { m_commonAppData = std::move(folder); }
+    void SetLocalAppDataFolder(std::wstring folder) { m_localAppData = std::move(folder); }
     void SetLastError(uint32_t error) { m_lastError = error; }
 
 private:
@@ -33,6 +35,7 @@ private:
     std::wstring m_moduleFilePath = L"C:\\Program Files\\Halvion\\WLM\\ORVA_WLMA.dll";
     std::wstring m_executableFilePath = L"C:\\Program Files\\Windows Live\\Mail\\wlmail.exe";
     std::wstring m_commonAppData = L"C:\\ProgramData";
+    std::wstring m_localAppData = L"C:\\Users\\User\\AppData\\Local";
     uint32_t m_lastError = 0;
 };
 
