@@ -46,11 +46,6 @@ void CPendingParts::OnFolderSelectionChanged(uint64_t) {
     Missing(L"The spam folder");
 }
 
-int CPendingParts::CheckIsUnsupportedMailServer() {
-    Missing(L"The default-account inspection");
-    return 0;
-}
-
 void CPendingParts::OpenFilteringSheet() {
     Missing(L"The filtering sheet");
 }

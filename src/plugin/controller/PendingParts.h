@@ -9,14 +9,13 @@
 
 namespace Orva::Plugin {
 
-// Stands in for the parts the add-in does not have yet (ribbon, classic band, mail store,
-// account inspection, dialogs), so that the controller and its protocol run complete without
-// them. Each missing operation is logged the first time it is asked for; none pretends to
-// succeed: no ribbon ids, no spam folder, a supported account, no dialog.
+// Stands in for the parts the add-in does not have yet (ribbon, classic band, spam folder,
+// dialogs), so that the controller and its protocol run complete without them. Each missing
+// operation is logged the first time it is asked for; none pretends to succeed: no ribbon ids,
+// no spam folder, no dialog.
 class CPendingParts final : public IRibbonCommands,
                             public IClassicBand,
                             public ISpamFolder,
-                            public IAccountCheck,
                             public ICommandDialogs {
 public:
     explicit CPendingParts(ZelCommon::Library::DebugLog& log) : m_log(log) {}
@@ -37,8 +36,6 @@ public:
     void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t messageId, bool all) override;
     void PostCleanDeletedFolder() override;
     void OnFolderSelectionChanged(uint64_t folderId) override;
-
-    int CheckIsUnsupportedMailServer() override;
 
     void OpenFilteringSheet() override;
     void OpenStatistics() override;

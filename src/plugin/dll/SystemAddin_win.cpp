@@ -28,6 +28,7 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
       m_shutdownDone(CreateAutoResetEvent()),
       m_hook(CreateWindowProcedureHook(CToolBarWnd::MainWindowHookProcedure())),
       m_strings(strings),
+      m_accountCheck({ZelCommon::Storage::SystemRegistryApi(), SystemProcessContext(), m_log}),
       m_pending(m_log) {}
 
 bool CSystemController::Open() {
@@ -37,7 +38,7 @@ bool CSystemController::Open() {
                         SystemShellOpen(), SystemKeyboard(), SystemProcessContext(),
                         SystemDebuggerOutput(), Orva::Settings::SystemOsInfo(), *m_host, m_version,
                         m_log},
-        ControllerParts{m_pending, m_pending, m_pending, m_pending, m_pending, m_strings,
+        ControllerParts{m_pending, m_pending, m_pending, m_accountCheck, m_pending, m_strings,
                         m_settings, m_agent},
         m_log);
     return m_window != nullptr;

@@ -9,6 +9,7 @@
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/agent/AgentLink.h"
 #include "plugin/controller/LoaderStrings.h"
+#include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailClientVersion.h"
 #include "plugin/controller/PendingParts.h"
 #include "plugin/controller/ToolBarWnd_win.h"
@@ -48,6 +49,7 @@ private:
     std::unique_ptr<ZelCommon::Platform::IWindowProcedureHook> m_hook;
     CMailClientVersion m_version;
     CLoaderStrings m_strings;
+    CMailClientAccountCheck m_accountCheck;
     CPendingParts m_pending;
     std::unique_ptr<CToolBarWnd> m_window;
 };
