@@ -39,7 +39,8 @@ public:
     // The locale folder under the resource folder, chosen as Initialize chooses the table, but
     // testing for the folder; empty when not even the "en-US" folder exists.
     std::wstring GetResFolderByAutoDetectLanguage();
-    // The locale name of the system default language's primary language.
+    // The locale folder of the system default language's language and script; "en-US" for a
+    // language of no known folder.
     std::wstring MapPrimaryLangID();
     // The installation folder (from the product key, else the default) + "ORVA\Resource\x86\".
     std::wstring GetResourcePath();

@@ -2,6 +2,7 @@
 #include "common_src/ZelCommon/StorageException.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
+#include "settings/localisation/PrimaryLanguageFolder.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 
 using ZelCommon::Exception::CatchThrown;
@@ -36,11 +37,11 @@ std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& re
     return mapped;
 }
 
+// Not Windows' name of the primary language's default sub-language: that is no folder name for
+// Spanish ("es-ES_tradnl"), Traditional Chinese for every Chinese reader and Croatian for the
+// Serbs and Bosnians.
 std::wstring ZelResourceStringLoader::MapPrimaryLangID() {
-    const uint16_t primary =
-        ZelCommon::Platform::PrimaryLanguageOf(m_services.locale.SystemDefaultLcid());
-    std::wstring name = m_services.locale.LcidToLocaleName(
-        ZelCommon::Platform::DefaultLcidOfPrimaryLanguage(primary));
+    std::wstring name(Orva::Settings::PrimaryLanguageFolder(m_services.locale.SystemDefaultLcid()));
     if (name.empty()) {
         name = kDefaultLocale;
     }
