@@ -12,8 +12,8 @@ std::wstring ZelResourceStringLoader::SystemLocaleName() {
     return m_services.locale.LcidToLocaleName(m_services.locale.SystemDefaultLcid());
 }
 
-// An id the map does not list keeps the system's own locale name, so that the primary-language
-// fall-back still applies to it.
+// A map is the installation's whole choice: an id it does not list reads as "en-US", even where
+// the system's own locale has a table. Only an entry left empty keeps the system's locale.
 std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& resourceFolder,
                                                           const std::wstring& localeName) {
     const std::wstring mapPath = ZelCommon::Path::ChildFile(resourceFolder, kLanguageMapFileName);
@@ -28,7 +28,7 @@ std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& re
             map.Open(mapPath, std::wstring(kLanguageMapSection), 0);
             const std::wstring key =
                 ZelCommon::Text::Format(L"%u", m_services.locale.SystemDefaultLcid());
-            mapped = map.GetString(key, std::wstring());
+            mapped = map.GetString(key, std::wstring(kDefaultLocale));
         },
         [this](const Exception& failure) { LogStorageFailure(failure); });
     if (!mapped.empty()) {
