@@ -36,6 +36,9 @@ public:
     }
 #endif
 
+    // The locale whose table Initialize opens from `resourceFolder`, chosen and logged as it
+    // chooses; "en-US" when not even that table exists.
+    std::wstring ChooseTableLocale(const std::wstring& resourceFolder);
     // The locale folder under the resource folder, chosen as Initialize chooses the table, but
     // testing for the folder; empty when not even the "en-US" folder exists.
     std::wstring GetResFolderByAutoDetectLanguage();
@@ -92,6 +95,7 @@ private:
 
     // System locale, the language map's override, the primary language, then "en-US": the first
     // whose `pathOf(locale)` passes `exists`.
+    LanguageChoice ChooseTable(const std::wstring& resourceFolder);
     LanguageChoice ChooseLanguage(const std::wstring& resourceFolder,
                                   const std::function<std::wstring(const std::wstring&)>& pathOf,
                                   const std::function<bool(const std::wstring&)>& exists,

@@ -81,6 +81,29 @@ ZelResourceStringLoader::LanguageChoice ZelResourceStringLoader::ChooseLanguage(
     return choice;
 }
 
+ZelResourceStringLoader::LanguageChoice ZelResourceStringLoader::ChooseTable(
+    const std::wstring& resourceFolder) {
+    const auto tableOf = [&resourceFolder](const std::wstring& locale) {
+        return ZelCommon::Path::ChildFile(ZelCommon::Path::ChildFolder(resourceFolder, locale),
+                                          kTableFileName);
+    };
+    return ChooseLanguage(
+        resourceFolder, tableOf, ZelCommon::Path::FileExists,
+        SearchTexts{
+            L"Start mapping primary language ID due to <%s> StringTable is not existed: [%s]",
+            L"<%s> Language not support!!\n Mapped primary language's StringTable is still "
+            L"not existed: [%s]",
+            L"Using default language <%s>: [%s]"});
+}
+
+std::wstring ZelResourceStringLoader::ChooseTableLocale(const std::wstring& resourceFolder) {
+    try {
+        return ChooseTable(resourceFolder).localeName;
+    } catch (...) {
+        return std::wstring(kDefaultLocale);
+    }
+}
+
 std::wstring ZelResourceStringLoader::GetResFolderByAutoDetectLanguage() {
     try {
         const std::wstring resourceFolder = GetResourcePath();
