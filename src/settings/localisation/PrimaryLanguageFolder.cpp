@@ -39,7 +39,7 @@ constexpr LanguageFolder kPrimaryLanguages[] = {
     {0x51, L"bo-CN"},      {0x52, L"cy-GB"},  {0x53, L"km-KH"},       {0x54, L"lo-LA"},
     {0x55, L"my-MM"},      {0x56, L"gl-ES"},  {0x57, L"kok-IN"},      {0x58, L"mni-IN"},
     {0x59, L"sd-Arab-PK"}, {0x5A, L"syr-SY"}, {0x5B, L"si-LK"},       {0x5C, L"chr-Cher-US"},
-    {0x5D, L"iu-Cans-CA"}, {0x5E, L"am-ET"},  {0x5F, L"tzm-Latn-DZ"}, {0x60, L"ks-Arab"},
+    {0x5D, L"iu-Latn-CA"}, {0x5E, L"am-ET"},  {0x5F, L"tzm-Latn-DZ"}, {0x60, L"ks-Arab"},
     {0x61, L"ne-NP"},      {0x62, L"fy-NL"},  {0x63, L"ps-AF"},       {0x64, L"fil-PH"},
     {0x65, L"dv-MV"},      {0x66, L"bin-NG"}, {0x67, L"ff-Latn-SN"},  {0x68, L"ha-Latn-NG"},
     {0x69, L"ibb-NG"},     {0x6A, L"yo-NG"},  {0x6B, L"quz-BO"},      {0x6C, L"nso-ZA"},
@@ -66,7 +66,7 @@ constexpr LanguageFolder kOtherScripts[] = {
     {0x742C, L"az-Cyrl-AZ"},  {0x0843, L"uz-Cyrl-UZ"}, {0x7843, L"uz-Cyrl-UZ"},
     {0x0846, L"pa-Arab-PK"},  {0x7C46, L"pa-Arab-PK"}, {0x0850, L"mn-Mong-CN"},
     {0x0C50, L"mn-Mong-CN"},  {0x7C50, L"mn-Mong-CN"}, {0x0459, L"sd-Deva-IN"},
-    {0x085D, L"iu-Latn-CA"},  {0x7C5D, L"iu-Latn-CA"}, {0x045F, L"tzm-Arab-MA"},
+    {0x045D, L"iu-Cans-CA"},  {0x785D, L"iu-Cans-CA"}, {0x045F, L"tzm-Arab-MA"},
     {0x105F, L"tzm-Tfng-MA"}, {0x0860, L"ks-Deva-IN"},
 };
 
