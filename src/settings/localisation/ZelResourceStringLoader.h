@@ -93,9 +93,10 @@ private:
         bool found = false;
     };
 
+    // The string table Initialize opens from `resourceFolder`, logged as it searches.
+    LanguageChoice ChooseTable(const std::wstring& resourceFolder);
     // System locale, the language map's override, the primary language, then "en-US": the first
     // whose `pathOf(locale)` passes `exists`.
-    LanguageChoice ChooseTable(const std::wstring& resourceFolder);
     LanguageChoice ChooseLanguage(const std::wstring& resourceFolder,
                                   const std::function<std::wstring(const std::wstring&)>& pathOf,
                                   const std::function<bool(const std::wstring&)>& exists,

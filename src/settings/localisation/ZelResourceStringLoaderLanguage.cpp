@@ -13,7 +13,7 @@ std::wstring ZelResourceStringLoader::SystemLocaleName() {
 }
 
 // A map is the installation's whole choice: an id it does not list reads as "en-US", even where
-// the system's own locale has a table. Only an entry left empty keeps the system's locale.
+// the system's own locale has a table.
 std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& resourceFolder,
                                                           const std::wstring& localeName) {
     const std::wstring mapPath = ZelCommon::Path::ChildFile(resourceFolder, kLanguageMapFileName);
