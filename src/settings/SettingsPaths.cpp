@@ -79,9 +79,21 @@ SettingsPaths MakeSettingsPaths(const std::wstring& addinFolder,
 }
 
 SettingsPaths ComputeSettingsPaths(ZelCommon::Platform::IProcessContext& process,
-                                   ZelCommon::Storage::IRegistryApi& registry) {
-    return MakeSettingsPaths(AddinFolderOf(process.ModuleFilePath()), process.CommonAppDataFolder(),
-                             IdentityName(registry));
+                                   ZelCommon::Storage::IRegistryApi& registry,
+                                   ZelCommon::Library::DebugLog& log) {
+    const std::wstring moduleFile = process.ModuleFilePath();
+    std::wstring commonAppData = process.CommonAppDataFolder();
+    if (commonAppData.empty()) {
+        log.LogText(
+            L"xxx Settings: no common application-data folder; nothing is written and "
+            L"the per-user settings keep their defaults\n");
+        // Relative data paths would put the settings, lists and log into the mail client's current
+        // folder, and empty ones would too as soon as a file name is joined to them. Below the
+        // module file every path stays absolute and nothing can be created, whatever the rights:
+        // a file holds no folders. Every read then finds nothing and gives its default.
+        commonAppData = moduleFile;
+    }
+    return MakeSettingsPaths(AddinFolderOf(moduleFile), commonAppData, IdentityName(registry));
 }
 
 bool CreateSettingsFolders(const SettingsPaths& paths) {

@@ -4,6 +4,7 @@
 
 #include "common_src/ZelCommon/RegistryApi.h"
 #include "common_src/platform/ProcessContext.h"
+#include "settings/log/DebugLog.h"
 
 namespace Orva::Settings {
 
@@ -36,8 +37,11 @@ SettingsPaths MakeSettingsPaths(const std::wstring& addinFolder,
 
 // The paths of this process: module path and common application data from the process context,
 // identity from the registry. Touches nothing on disk (the start-up creates the folders).
-SettingsPaths ComputeSettingsPaths(ZelCommon::Platform::IProcessContext& process,
-                                   ZelCommon::Storage::IRegistryApi& registry);
+// Without a common application-data folder the data paths lie below the module file, where
+// nothing can be created.
+SettingsPaths ComputeSettingsPaths(
+    ZelCommon::Platform::IProcessContext& process, ZelCommon::Storage::IRegistryApi& registry,
+    ZelCommon::Library::DebugLog& log = ZelCommon::Library::TheLog());
 
 // Creates the data root and the per-user folder; returns whether the per-user folder exists.
 bool CreateSettingsFolders(const SettingsPaths& paths);

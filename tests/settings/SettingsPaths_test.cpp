@@ -1,14 +1,18 @@
 #include "settings/SettingsPaths.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "support/TempFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
+#include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/ZelCommon/Registry.h"
-#include "support/fakes/platform/FakeProcessContext.h"
+#include "common_src/platform/AppendFile.h"
 #include "common_src/platform/Path.h"
+#include "settings/probes/ProbeLog.h"
+#include "support/TempFolder.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 
 namespace Orva::Settings {
 namespace {
@@ -121,6 +125,31 @@ TEST(ComputeSettingsPaths, LastUserId_NamesTheUserFolder) {
 
     EXPECT_EQ(paths.identity, L"{8E4C}");
     EXPECT_EQ(paths.userFile, temp.Path() + Native(L"Halvion/WLM/Users/{8E4C}/ORVA_WLM.ini"));
+}
+
+// Without the common application-data folder nothing of the add-in's may land anywhere, least
+// of all in the mail client's current folder.
+TEST(ComputeSettingsPaths, NoCommonAppData_LogsItAndNothingCanBeWritten) {
+    Testing::TempFolder temp;
+    ZelCommon::Fakes::FakeProcessContext process;
+    process.SetModuleFilePath(temp.File(L"ORVA_WLMA.dll"));
+    ZelCommon::Platform::AppendFile::Open(process.ModuleFilePath()).Write("MZ");
+    process.SetCommonAppDataFolder(L"");
+    MemoryRegistry registry;
+    Testing::ProbeLog log;
+
+    const SettingsPaths paths = ComputeSettingsPaths(process, registry, log.Log());
+
+    EXPECT_THAT(log.Lines(), testing::ElementsAre(testing::StartsWith(L"xxx ")));
+    EXPECT_FALSE(CreateSettingsFolders(paths));
+    ZelCommon::Storage::IProfileApi& profile = ZelCommon::Storage::SystemProfileApi();
+    for (const std::wstring& file : {paths.userFile, paths.versionFile}) {
+        EXPECT_FALSE(profile.WriteString(L"General", L"Debug", L"1", file.c_str()));
+    }
+    EXPECT_FALSE(ZelCommon::Platform::AppendFile::Open(
+                     ZelCommon::Path::ChildFile(paths.logFolder, L"ORVAAgent.log"))
+                     .IsOpen());
+    EXPECT_EQ(paths.addinFolder, temp.Path());
 }
 
 }  // namespace

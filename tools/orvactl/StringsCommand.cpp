@@ -6,6 +6,7 @@
 #include "CommandErrors.h"
 #include "NamedOption.h"
 #include "Orvactl.h"
+#include "common_src/platform/Locale.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
 #include "settings/localisation/StringEscapes.h"
@@ -18,12 +19,14 @@ namespace {
 
 struct StringsOptions {
     std::wstring localeName;
+    bool chooseAsTheAddin = false;  // --auto
     std::wstring resourceFolder;
     std::wstring section = std::wstring(Settings::kAddinStringSection);
     std::optional<std::wstring> id;
 };
 
-// Accepts "--name VALUE" and "--name=VALUE"; one argument without dashes is the id.
+// Accepts "--name VALUE" and "--name=VALUE", and "--auto"; one argument without dashes is the
+// id.
 std::optional<StringsOptions> ParseOptions(std::span<const std::wstring> args, ITextSink& err,
                                            int& exitCode) {
     StringsOptions options;
@@ -34,6 +37,10 @@ std::optional<StringsOptions> ParseOptions(std::span<const std::wstring> args, I
                 return std::nullopt;
             }
             options.id = args[at];
+            continue;
+        }
+        if (args[at] == L"--auto") {
+            options.chooseAsTheAddin = true;
             continue;
         }
         const auto [name, value] = TakeNamedOption(args, at);
@@ -51,8 +58,9 @@ std::optional<StringsOptions> ParseOptions(std::span<const std::wstring> args, I
         }
         *target = *value;
     }
-    if (options.localeName.empty()) {
-        exitCode = ReportUsageError(err, L"'strings' needs --locale NAME");
+    const bool namesALocale = !options.localeName.empty();
+    if (namesALocale == options.chooseAsTheAddin) {  // neither, or both
+        exitCode = ReportUsageError(err, L"'strings' needs either --locale NAME or --auto");
         return std::nullopt;
     }
     return options;
@@ -61,6 +69,19 @@ std::optional<StringsOptions> ParseOptions(std::span<const std::wstring> args, I
 std::wstring TableFile(const std::wstring& resourceFolder, const std::wstring& localeName) {
     return ZelCommon::Path::ChildFile(ZelCommon::Path::ChildFolder(resourceFolder, localeName),
                                       ZelResourceStringLoader::kTableFileName);
+}
+
+// Runs the add-in's own choice and prints what it was made from, so that an administrator sees
+// why a user gets the texts he gets: the system locale id, Windows' name for it ("-" for none)
+// and the chosen table's locale.
+std::wstring ChooseAsTheAddin(const std::wstring& resourceFolder, ITextSink& out) {
+    const ZelCommon::Platform::ILocale& system = ZelCommon::Platform::SystemLocale();
+    const uint32_t lcid = system.SystemDefaultLcid();
+    const std::wstring windowsName = system.LcidToLocaleName(lcid);
+    std::wstring chosen = ZelResourceStringLoader().ChooseTableLocale(resourceFolder);
+    out.Write(ZelCommon::Text::Format(L"%u %s %s\n", lcid, windowsName.empty() ? L"-" : windowsName,
+                                      chosen));
+    return chosen;
 }
 
 int PrintOne(const std::vector<Settings::StringTableEntry>& table, const StringsOptions& options,
@@ -121,6 +142,9 @@ int RunStringsCommand(std::span<const std::wstring> args, ITextSink& out, ITextS
     if (options->resourceFolder.empty()) {
         options->resourceFolder = ZelResourceStringLoader().GetResourcePath();
     }
+    if (options->chooseAsTheAddin) {
+        options->localeName = ChooseAsTheAddin(options->resourceFolder, out);
+    }
     const std::wstring file = TableFile(options->resourceFolder, options->localeName);
     if (!ZelCommon::Path::FileExists(file)) {
         return ReportFailure(err, L"no string table: " + file);
@@ -147,6 +171,7 @@ int RunStringsCommand(std::span<const std::wstring> args, ITextSink& out, ITextS
 std::wstring StringsHelpText() {
     return LR"(strings command (the localised string tables, StringTable.ini per locale folder):
   orvactl strings --locale NAME [--resource-folder DIR] [--section NAME] [ID]
+  orvactl strings --auto [--resource-folder DIR] [--section NAME] [ID]
       With ID, prints the text of ID from the NAME table as the add-in shows it ("\n" and
       "\r" become line breaks; placeholders such as <$PRODUCT NAME> stay as they are).
       Without ID, checks the whole table and prints one line per problem:
@@ -159,6 +184,10 @@ std::wstring StringsHelpText() {
       DIR is the folder holding the locale folders (in a checkout: res/Resource/x86); by
       default the installed product's, found as the add-in finds it. The section defaults to
       ORVA_WLM; other sections are checked for placeholders and against en-US only.
+      --auto chooses NAME as the add-in does (the system's default locale, LanguageMap.ini in
+      DIR, the locale's language, en-US) and first prints one line with the system's locale id
+      in decimal, Windows' name for it ("-" when it has none) and the chosen NAME, for example
+      "2058 es-MX es-ES"; the rest is printed as with --locale NAME.
 )";
 }
 

@@ -8,9 +8,10 @@
 
 namespace Orva::Orvactl {
 
-// "orvactl strings --locale NAME [--resource-folder DIR] [--section NAME] [ID]": prints the
-// text of ID as the add-in shows it, or checks the locale's whole table against the ids the
-// add-in loads and against the en-US table. `args` follows "strings".
+// "orvactl strings --locale NAME|--auto [--resource-folder DIR] [--section NAME] [ID]": prints
+// the text of ID as the add-in shows it, or checks the locale's whole table against the ids the
+// add-in loads and against the en-US table; --auto first chooses and reports the locale as the
+// add-in does. `args` follows "strings".
 int RunStringsCommand(std::span<const std::wstring> args, ITextSink& out, ITextSink& err,
                       ZelCommon::Storage::IProfileApi& api);
 

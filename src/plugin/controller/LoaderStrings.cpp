@@ -6,15 +6,15 @@
 namespace Orva::Plugin {
 
 std::wstring CLoaderStrings::Load(const std::wstring& id) {
-    if (!m_open) {
-        m_open = m_loader.Initialize(kSection);
+    if (m_state == TableState::NotTried) {
+        m_state = m_loader.Initialize(kSection) ? TableState::Open : TableState::Failed;
     }
-    return m_open ? m_loader.LoadString(id) : std::wstring();
+    return m_state == TableState::Open ? m_loader.LoadString(id) : std::wstring();
 }
 
 void CLoaderStrings::Release() {
     m_loader.UnInitialize();
-    m_open = false;
+    m_state = TableState::NotTried;
 }
 
 }  // namespace Orva::Plugin

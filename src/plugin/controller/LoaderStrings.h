@@ -8,7 +8,8 @@
 namespace Orva::Plugin {
 
 // The controller's localised texts from the product's string table, opened on first use and
-// closed again at shut-down.
+// closed again at shut-down. A table that cannot be opened is not looked for again until then:
+// each attempt searches the disk and logs its failure, for every text the controller shows.
 class CLoaderStrings final : public ILocalisedStrings {
 public:
     static constexpr const wchar_t* kSection = L"ORVA_WLM";
@@ -19,8 +20,10 @@ public:
     void Release() override;
 
 private:
+    enum class TableState { NotTried, Open, Failed };
+
     ZelResourceStringLoader& m_loader;
-    bool m_open = false;
+    TableState m_state = TableState::NotTried;
 };
 
 }  // namespace Orva::Plugin

@@ -59,8 +59,8 @@ void CSystemController::SetMailClientWindow(WindowHandle window) {
 
 CSystemAddin::CSystemAddin(HINSTANCE module)
     : m_log(ZelCommon::Library::TheLog()),
-      m_paths(Orva::Settings::ComputeSettingsPaths(SystemProcessContext(),
-                                                   ZelCommon::Storage::SystemRegistryApi())),
+      m_paths(Orva::Settings::ComputeSettingsPaths(
+          SystemProcessContext(), ZelCommon::Storage::SystemRegistryApi(), m_log)),
       m_settings(ZelCommon::Storage::SystemProfileApi(),
                  Orva::Settings::FilesOf(m_paths, Orva::Settings::CComUtilSet::IsWindows64())),
       m_agent(SystemWindowMessaging(), SystemClock(), SystemProcessLauncher(), m_log,

@@ -30,18 +30,7 @@ bool ZelResourceStringLoader::Initialize(const std::wstring& section) {
             return false;
         }
         UnInitialize();
-        const std::wstring resourceFolder = GetResourcePath();
-        const auto tableOf = [&resourceFolder](const std::wstring& locale) {
-            return ZelCommon::Path::ChildFile(ZelCommon::Path::ChildFolder(resourceFolder, locale),
-                                              kTableFileName);
-        };
-        const LanguageChoice choice = ChooseLanguage(
-            resourceFolder, tableOf, ZelCommon::Path::FileExists,
-            SearchTexts{
-                L"Start mapping primary language ID due to <%s> StringTable is not existed: [%s]",
-                L"<%s> Language not support!!\n Mapped primary language's StringTable is still "
-                L"not existed: [%s]",
-                L"Using default language <%s>: [%s]"});
+        const LanguageChoice choice = ChooseTable(GetResourcePath());
         if (!choice.found) {
             Log(L"*** Error occurred!! <%s> StringTable is not existed: [%s]", choice.localeName,
                 choice.path);

@@ -36,10 +36,14 @@ public:
     }
 #endif
 
+    // The locale whose table Initialize opens from `resourceFolder`, chosen and logged as it
+    // chooses; "en-US" when not even that table exists.
+    std::wstring ChooseTableLocale(const std::wstring& resourceFolder);
     // The locale folder under the resource folder, chosen as Initialize chooses the table, but
     // testing for the folder; empty when not even the "en-US" folder exists.
     std::wstring GetResFolderByAutoDetectLanguage();
-    // The locale name of the system default language's primary language.
+    // The locale folder of the system default language's language and script; "en-US" for a
+    // language of no known folder.
     std::wstring MapPrimaryLangID();
     // The installation folder (from the product key, else the default) + "ORVA\Resource\x86\".
     std::wstring GetResourcePath();
@@ -89,6 +93,8 @@ private:
         bool found = false;
     };
 
+    // The string table Initialize opens from `resourceFolder`, logged as it searches.
+    LanguageChoice ChooseTable(const std::wstring& resourceFolder);
     // System locale, the language map's override, the primary language, then "en-US": the first
     // whose `pathOf(locale)` passes `exists`.
     LanguageChoice ChooseLanguage(const std::wstring& resourceFolder,

@@ -2,6 +2,7 @@
 #include "common_src/ZelCommon/StorageException.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
+#include "settings/localisation/PrimaryLanguageFolder.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 
 using ZelCommon::Exception::CatchThrown;
@@ -11,8 +12,8 @@ std::wstring ZelResourceStringLoader::SystemLocaleName() {
     return m_services.locale.LcidToLocaleName(m_services.locale.SystemDefaultLcid());
 }
 
-// An id the map does not list keeps the system's own locale name, so that the primary-language
-// fall-back still applies to it.
+// A map is the installation's whole choice: an id it does not list reads as "en-US", even where
+// the system's own locale has a table.
 std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& resourceFolder,
                                                           const std::wstring& localeName) {
     const std::wstring mapPath = ZelCommon::Path::ChildFile(resourceFolder, kLanguageMapFileName);
@@ -27,7 +28,7 @@ std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& re
             map.Open(mapPath, std::wstring(kLanguageMapSection), 0);
             const std::wstring key =
                 ZelCommon::Text::Format(L"%u", m_services.locale.SystemDefaultLcid());
-            mapped = map.GetString(key, std::wstring());
+            mapped = map.GetString(key, std::wstring(kDefaultLocale));
         },
         [this](const Exception& failure) { LogStorageFailure(failure); });
     if (!mapped.empty()) {
@@ -36,11 +37,11 @@ std::wstring ZelResourceStringLoader::LanguageMapOverride(const std::wstring& re
     return mapped;
 }
 
+// Not Windows' name of the primary language's default sub-language: that is no folder name for
+// Spanish ("es-ES_tradnl"), Traditional Chinese for every Chinese reader and Croatian for the
+// Serbs and Bosnians.
 std::wstring ZelResourceStringLoader::MapPrimaryLangID() {
-    const uint16_t primary =
-        ZelCommon::Platform::PrimaryLanguageOf(m_services.locale.SystemDefaultLcid());
-    std::wstring name = m_services.locale.LcidToLocaleName(
-        ZelCommon::Platform::DefaultLcidOfPrimaryLanguage(primary));
+    std::wstring name(Orva::Settings::PrimaryLanguageFolder(m_services.locale.SystemDefaultLcid()));
     if (name.empty()) {
         name = kDefaultLocale;
     }
@@ -78,6 +79,29 @@ ZelResourceStringLoader::LanguageChoice ZelResourceStringLoader::ChooseLanguage(
     }
     choice.found = present(choice);
     return choice;
+}
+
+ZelResourceStringLoader::LanguageChoice ZelResourceStringLoader::ChooseTable(
+    const std::wstring& resourceFolder) {
+    const auto tableOf = [&resourceFolder](const std::wstring& locale) {
+        return ZelCommon::Path::ChildFile(ZelCommon::Path::ChildFolder(resourceFolder, locale),
+                                          kTableFileName);
+    };
+    return ChooseLanguage(
+        resourceFolder, tableOf, ZelCommon::Path::FileExists,
+        SearchTexts{
+            L"Start mapping primary language ID due to <%s> StringTable is not existed: [%s]",
+            L"<%s> Language not support!!\n Mapped primary language's StringTable is still "
+            L"not existed: [%s]",
+            L"Using default language <%s>: [%s]"});
+}
+
+std::wstring ZelResourceStringLoader::ChooseTableLocale(const std::wstring& resourceFolder) {
+    try {
+        return ChooseTable(resourceFolder).localeName;
+    } catch (...) {
+        return std::wstring(kDefaultLocale);
+    }
 }
 
 std::wstring ZelResourceStringLoader::GetResFolderByAutoDetectLanguage() {

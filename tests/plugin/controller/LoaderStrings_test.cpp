@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "settings/localisation/StringLoaderFixture.h"
 
 namespace {
@@ -20,10 +24,17 @@ TEST_F(LoaderStrings, Load_ReadsTheProductTable) {
     EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"http://home.example/");
 }
 
-TEST_F(LoaderStrings, NoTable_GivesEmptyTexts) {
+TEST_F(LoaderStrings, NoTable_GivesEmptyTextsAndIsLookedForOnce) {
     ZelResourceStringLoader loader(Services());
     CLoaderStrings strings(loader);
-    EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"");
+    for (int load = 0; load < 3; ++load) {
+        EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"");
+    }
+    const std::vector<std::wstring> lines = TakeLines();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(),
+                         L"*** Error occurred!! <en-US> StringTable is not existed: [" +
+                             TableOf(L"en-US") + L"]"),
+              1);
 }
 
 TEST_F(LoaderStrings, Release_ClosesTheTableAndTheNextLoadReopensIt) {

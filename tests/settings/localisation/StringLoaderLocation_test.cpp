@@ -116,21 +116,6 @@ TEST_F(StringLoaderLocationTest, NoLocaleFolderAtAll_GivesNothing) {
                             ResourceFolder() + Native(L"en-US/]"));
 }
 
-TEST_F(StringLoaderLocationTest, PrimaryLanguage_MapsToItsDefaultSublanguage) {
-    locale.SetSystemDefaultLcid(0x0807);
-    ZelResourceStringLoader loader(Services());
-    TakeLines();
-
-    EXPECT_EQ(loader.MapPrimaryLangID(), L"de-DE");
-    EXPECT_THAT(TakeLines(), ElementsAre(L"Primary language mapped result: [de-DE]"));
-}
-
-TEST_F(StringLoaderLocationTest, PrimaryLanguageWithoutAName_MapsToEnglish) {
-    locale.SetSystemDefaultLcid(0x0C1A);
-    ZelResourceStringLoader loader(Services());
-    EXPECT_EQ(loader.MapPrimaryLangID(), L"en-US");
-}
-
 // The help parts as an administrator would register them.
 class OnlineHelpTest : public StringLoaderTest {
 protected:

@@ -144,36 +144,32 @@ TEST_F(ZelResourceStringLoaderTest, NoEnglishTableEither_FailsAndEveryLoadIsEmpt
     EXPECT_THAT(TakeLines(), ElementsAre(L"*** ZelCommon::Storage::Exception(): [0x000000a0]"));
 }
 
-TEST_F(ZelResourceStringLoaderTest, LanguageMapEntry_OverridesTheSystemLocale) {
-    locale.SetSystemDefaultLcid(0x0809);  // en-GB, whose primary language would give en-US
+// With a map, the map alone decides: a locale it does not list reads as English, even where
+// the system's own locale has a table.
+TEST_F(ZelResourceStringLoaderTest, LanguageMap_DecidesTheLocaleWithEnglishForUnlistedIds) {
+    struct Case {
+        uint32_t systemLcid;
+        const wchar_t* chosen;
+        const wchar_t* matchLine;
+    };
     WriteTable(L"de-DE", L"IDS_OK", L"Gut");
     WriteTable(L"en-US", L"IDS_OK", L"OK");
     WriteLanguageMap(0x0809, L"de-DE");
-    ZelResourceStringLoader loader(Services());
-    TakeLines();
+    for (const Case& row : {Case{0x0809, L"de-DE", L"from [en-GB] to [de-DE]"},
+                            Case{0x0407, L"en-US", L"from [de-DE] to [en-US]"}}) {
+        locale.SetSystemDefaultLcid(row.systemLcid);
+        ZelResourceStringLoader loader(Services());
+        TakeLines();
 
-    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+        ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
 
-    EXPECT_EQ(loader.LocaleName(), L"de-DE");
-    const std::vector<std::wstring> lines = TakeLines();
-    ASSERT_EQ(lines.size(), 5u);
-    EXPECT_EQ(lines[2], L"Using LanguageMap.ini to perform language mapping, path: [" +
-                            ResourceFolder() + L"LanguageMap.ini]");
-    EXPECT_EQ(lines[3], L"<LanguageMap.ini> Matched Locale Name from [en-GB] to [de-DE]");
-}
-
-TEST_F(ZelResourceStringLoaderTest, LanguageMapWithoutTheLocale_KeepsTheSystemLocale) {
-    locale.SetSystemDefaultLcid(0x0407);
-    WriteTable(L"de-DE", L"IDS_OK", L"Gut");
-    WriteTable(L"en-US", L"IDS_OK", L"OK");
-    WriteLanguageMap(1047, L"de-DE");
-    ZelResourceStringLoader loader(Services());
-
-    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
-
-    EXPECT_EQ(loader.LocaleName(), L"de-DE");
-    for (const std::wstring& line : TakeLines()) {
-        EXPECT_EQ(line.find(L"Matched Locale Name"), std::wstring::npos) << line;
+        EXPECT_EQ(loader.LocaleName(), row.chosen);
+        const std::vector<std::wstring> lines = TakeLines();
+        ASSERT_EQ(lines.size(), 5u);
+        EXPECT_EQ(lines[2], L"Using LanguageMap.ini to perform language mapping, path: [" +
+                                ResourceFolder() + L"LanguageMap.ini]");
+        EXPECT_EQ(lines[3],
+                  L"<LanguageMap.ini> Matched Locale Name " + std::wstring(row.matchLine));
     }
 }
 

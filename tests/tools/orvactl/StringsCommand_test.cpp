@@ -109,6 +109,7 @@ TEST(StringsCommand, BadArguments_AreUsageErrors) {
     EXPECT_EQ(Strings({L"--locale"}).exitCode, kExitUsage);
     EXPECT_EQ(Strings({L"--locale", L"en-US", L"--colour", L"red"}).exitCode, kExitUsage);
     EXPECT_EQ(Strings({L"--locale", L"en-US", L"IDS_A", L"IDS_B"}).exitCode, kExitUsage);
+    EXPECT_EQ(Strings({L"--auto", L"--locale", L"en-US"}).exitCode, kExitUsage);
 }
 
 }  // namespace
