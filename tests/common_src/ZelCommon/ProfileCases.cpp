@@ -296,6 +296,14 @@ std::vector<ProfileCase> BuildCases() {
               After::Bytes, Utf16LeFile(L"[s]\r\na=1\r\nb=\u20AC\r\n")),
         Write("Write_KeepsUtf8Bom", "\xEF\xBB\xBF[s]\r\na=1\r\n", L"s", L"a", L"\u00E9", true,
               After::Bytes, "\xEF\xBB\xBF[s]\r\na=\xC3\xA9\r\n"),
+        // Written on Windows in its ANSI code page: bytes that are not UTF-8 on the lines the
+        // write does not touch, the last sequence cut by the end of the file.
+        Write("Write_AnsiBytesOnOtherLinesKept",
+              "[Gr\xFC\xDF]\r\nName=Ren\xE9\r\n[s]\r\nk=1\r\n"
+              "note=\x80\xC3(\xC3\xA9\xC0\xAF\xED\xA0\x80\xF4\x90\x80\x80\xFF\r\nend=\xE2\x82",
+              L"s", L"k", L"2", true, After::Bytes,
+              "[Gr\xFC\xDF]\r\nName=Ren\xE9\r\n[s]\r\nk=2\r\n"
+              "note=\x80\xC3(\xC3\xA9\xC0\xAF\xED\xA0\x80\xF4\x90\x80\x80\xFF\r\nend=\xE2\x82\r\n"),
         Write("Write_KeepsUtf16Be", Utf16BeFile(L"[s]\r\na=1\r\n"), L"s", L"a", L"2", true,
               After::Bytes, Utf16BeFile(L"[s]\r\na=2\r\n")),
         With(Write("Write_MissingFolderFails", "", L"s", L"k", L"v", false, After::Absent),
