@@ -83,18 +83,20 @@ void IniFile::Flush() {
     m_api.WriteString(nullptr, nullptr, nullptr, m_path.c_str());
 }
 
-// The buffer holds `size` characters of text and its terminating zero, so a value that fills
-// all `size` characters may have been cut and is read again with 256 more.
+// The profile functions cut a value to the buffer less its zero, and a quoted value one
+// character shorter still, having dropped its closing quote. So the buffer holds `size`
+// characters, the zero and one spare, and only an answer shorter than `size` is surely whole:
+// a value of 255 characters takes one call.
 std::wstring IniFile::GetString(const std::wstring& name, const std::wstring& defaultValue) {
     std::wstring result = defaultValue;
     RequireOpen();
     uint32_t size = kStringStartChars;
     for (;;) {
-        std::vector<wchar_t> buffer = ZeroedBuffer(size + 1);
+        std::vector<wchar_t> buffer = ZeroedBuffer(size + 2);
         const uint32_t length =
             m_api.GetString(m_section.c_str(), name.c_str(), defaultValue.c_str(), buffer.data(),
-                            size + 1, m_path.c_str());
-        if (length == size) {
+                            size + 2, m_path.c_str());
+        if (length >= size) {
             size += kStringGrowthChars;
             continue;
         }

@@ -84,7 +84,7 @@ void AddLine(Document& document, std::wstring_view line, bool& lastNameEmpty, bo
 void AppendEncoded(std::string& out, std::wstring_view text, Encoding encoding) {
     switch (encoding) {
         case Encoding::Ansi:
-            out += Text::WideToAnsi(text);
+            out += WideToAnsi(text);
             break;
         case Encoding::Utf8:
             out += Text::WideToUtf8(text);

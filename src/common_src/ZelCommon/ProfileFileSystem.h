@@ -11,7 +11,9 @@ namespace ZelCommon::Storage::ProfileFile {
 // close for the time to tell two versions of the file apart.
 bool IsRecent(const Platform::FileStamp& stamp);
 
-// Text in the system's ANSI code page, as files without a byte-order mark are read.
+// Text in the system's ANSI code page, as files without a byte-order mark are read and written.
+// What AnsiToWide reads, WideToAnsi writes back byte for byte.
 std::wstring AnsiToWide(std::string_view bytes);
+std::string WideToAnsi(std::wstring_view text);
 
 }  // namespace ZelCommon::Storage::ProfileFile

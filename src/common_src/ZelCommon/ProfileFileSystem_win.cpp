@@ -4,6 +4,7 @@
 #include <string>
 
 #include "common_src/ZelCommon/ProfileFileSystem.h"
+#include "common_src/platform/TextCodec.h"
 
 namespace ZelCommon::Storage::ProfileFile {
 
@@ -28,6 +29,10 @@ std::wstring AnsiToWide(std::string_view bytes) {
     std::wstring out(static_cast<size_t>(needed), L'\0');
     MultiByteToWideChar(CP_ACP, 0, bytes.data(), length, out.data(), needed);
     return out;
+}
+
+std::string WideToAnsi(std::wstring_view text) {
+    return Text::WideToAnsi(text);
 }
 
 }  // namespace ZelCommon::Storage::ProfileFile

@@ -1,13 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "ProfileCases.h"
 #include "common_src/ZelCommon/ProfileEngine.h"
 #include "common_src/ZelCommon/Win32ProfileApi.h"
+#include "support/FileBytes.h"
+#include "support/TempFolder.h"
 
 namespace ZelCommon::Storage::Testing {
 namespace {
@@ -25,13 +26,6 @@ INSTANTIATE_TEST_SUITE_P(Win32ProfileApi, Win32ProfileCases, ::testing::ValuesIn
 // Random small files, the same calls on the engine and on Windows, every answer compared.
 class ProfileDifferential : public ::testing::Test {
 protected:
-    void SetUp() override {
-        m_folder = std::filesystem::temp_directory_path() / "orva_profile_differential";
-        std::filesystem::remove_all(m_folder);
-        std::filesystem::create_directories(m_folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
     uint32_t Next() {
         m_seed = m_seed * 1103515245u + 12345u;
         return m_seed >> 16;
@@ -67,22 +61,7 @@ protected:
         return kNames[Next() % (sizeof(kNames) / sizeof(kNames[0]))];
     }
 
-    void Put(const std::filesystem::path& path, const std::string& bytes) {
-        std::ofstream out(path, std::ios::binary | std::ios::trunc);
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    }
-
-    std::string Contents(const std::filesystem::path& path) {
-        std::ifstream in(path, std::ios::binary);
-        std::string bytes;
-        char c = 0;
-        while (in.get(c)) {
-            bytes.push_back(c);
-        }
-        return bytes;
-    }
-
-    std::filesystem::path m_folder;
+    Orva::Testing::TempFolder m_folder;
     uint32_t m_seed = 2024;
 };
 
@@ -92,10 +71,12 @@ TEST_F(ProfileDifferential, RandomFiles_EngineAnswersAsWin32) {
     static const uint32_t kSizes[] = {2, 3, 5, 8, 64};
     for (int round = 0; round < 600; ++round) {
         const std::string bytes = RandomFile();
-        const std::filesystem::path engineFile = m_folder / ("e" + std::to_string(round) + ".ini");
-        const std::filesystem::path win32File = m_folder / ("w" + std::to_string(round) + ".ini");
-        Put(engineFile, bytes);
-        Put(win32File, bytes);
+        const std::filesystem::path engineFile =
+            m_folder.Root() / ("e" + std::to_string(round) + ".ini");
+        const std::filesystem::path win32File =
+            m_folder.Root() / ("w" + std::to_string(round) + ".ini");
+        Orva::Testing::WriteFileBytes(engineFile, bytes);
+        Orva::Testing::WriteFileBytes(win32File, bytes);
         const std::wstring e = engineFile.wstring();
         const std::wstring w = win32File.wstring();
         const wchar_t* section = RandomName();
@@ -131,7 +112,8 @@ TEST_F(ProfileDifferential, RandomFiles_EngineAnswersAsWin32) {
         const wchar_t* writeKey = write == 2 ? nullptr : key;
         EXPECT_EQ(engine.WriteString(section, writeKey, value, e.c_str()),
                   win32.WriteString(section, writeKey, value, w.c_str()));
-        EXPECT_EQ(Contents(engineFile), Contents(win32File)) << "after write " << write;
+        EXPECT_EQ(Orva::Testing::ReadFileBytes(engineFile), Orva::Testing::ReadFileBytes(win32File))
+            << "after write " << write;
     }
 }
 

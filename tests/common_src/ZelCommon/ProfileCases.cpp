@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <chrono>
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
+#include <string>
 #include <string_view>
-#include <system_error>
 
 #include "common_src/platform/TextCodec.h"
+#include "support/FileBytes.h"
+#include "support/TempFolder.h"
 
 namespace ZelCommon::Storage::Testing {
 namespace {
@@ -110,8 +110,17 @@ ProfileCase With(ProfileCase c, FileSetup setup, std::optional<uint32_t> lastErr
     return c;
 }
 
+// A line far beyond 64K characters, then many sections.
+std::string LongFile(const char* fifthValue) {
+    std::string bytes = "[s]\r\nk=" + std::string(100000, 'x') + "\r\n";
+    for (int i = 0; i < 2000; ++i) {
+        bytes += "[n" + std::to_string(i) + "]\r\nk=" + (i == 5 ? fifthValue : "v") + "\r\n";
+    }
+    return bytes;
+}
+
 std::vector<ProfileCase> BuildCases() {
-    const std::string hugeValue(100000, 'x');
+    const std::string longFile = LongFile("v");
     return {
         // Values
         Read("Value_Plain", kSettings, L"Settings", L"Name", L"d", 64, 5, L"Alice\0"s),
@@ -153,8 +162,6 @@ std::vector<ProfileCase> BuildCases() {
              L"head", L"d", 64, 1, L"1\0"s),
         Read("Value_InlineSemicolonKept", "[s]\r\nk=a ; b\r\n", L"s", L"k", L"d", 64, 5,
              L"a ; b\0"s),
-        Read("Value_HugeLineCut", "[s]\r\nk=" + hugeValue + "\r\n", L"s", L"k", L"d", 64, 63,
-             std::wstring(63, L'x') + L'\0'),
         // Defaults
         Read("Default_MissingKey", kSettings, L"Settings", L"Nope", L"dflt", 64, 4, L"dflt\0"s),
         Read("Default_TrailingSpacesDropped", kSettings, L"Settings", L"Nope", L"dflt  ", 64, 4,
@@ -243,6 +250,20 @@ std::vector<ProfileCase> BuildCases() {
         Read("Damaged_BinaryBeforeHeader", "\x01\x02\x03\0\0\x7F\r\n[s]\r\nk=v\r\n"s, L"s", L"k",
              L"d", 64, 1, L"v\0"s),
         Read("Damaged_LoneUtf16Bom", "\xFF\xFE", L"s", L"k", L"d", 64, 1, L"d\0"s),
+        Read("Damaged_OddLengthUtf16LastByteIgnored",
+             "\xFF\xFE[\0s\0]\0\r\0\n\0k\0=\0v\0\r\0\n\0x"s, L"s", L"k", L"d", 64, 1, L"v\0"s),
+        Read("Damaged_LoneSurrogateInUtf16", "\xFF\xFE[\0s\0]\0\n\0a\0=\0\x00\xD8\n\0k\0=\0v\0"s,
+             L"s", L"k", L"d", 64, 1, L"v\0"s),
+        Read("Damaged_InvalidUtf8AfterBomReplaced",
+             "\xEF\xBB\xBF[s]\r\nbad=\xC3\x28\xFF\r\nk=v\r\n", L"s", L"bad", L"d", 64, 3,
+             L"\uFFFD(\uFFFD\0"s),
+        Names("Damaged_Utf8BomOnly", "\xEF\xBB\xBF", 8, 0, L"\0#"s),
+        // Long lines and files
+        Read("Long_LineCutToBuffer", longFile, L"s", L"k", L"d", 64, 63,
+             std::wstring(63, L'x') + L'\0'),
+        Read("Long_LastOfManySectionsFound", longFile, L"n1999", L"k", L"d", 64, 1, L"v\0"s),
+        Write("Long_FileRewrittenWhole", longFile, L"n5", L"k", L"w", true, After::Bytes,
+              LongFile("w")),
         // Numbers
         Int("Int_Plain", L"plain", 5, 42),
         Int("Int_Negative", L"neg", 5, static_cast<uint32_t>(-7)),
@@ -296,6 +317,14 @@ std::vector<ProfileCase> BuildCases() {
               After::Bytes, Utf16LeFile(L"[s]\r\na=1\r\nb=\u20AC\r\n")),
         Write("Write_KeepsUtf8Bom", "\xEF\xBB\xBF[s]\r\na=1\r\n", L"s", L"a", L"\u00E9", true,
               After::Bytes, "\xEF\xBB\xBF[s]\r\na=\xC3\xA9\r\n"),
+        // Written on Windows in its ANSI code page: bytes that are not UTF-8 on the lines the
+        // write does not touch, the last sequence cut by the end of the file.
+        Write("Write_AnsiBytesOnOtherLinesKept",
+              "[Gr\xFC\xDF]\r\nName=Ren\xE9\r\n[s]\r\nk=1\r\n"
+              "note=\x80\xC3(\xC3\xA9\xC0\xAF\xED\xA0\x80\xF4\x90\x80\x80\xFF\r\nend=\xE2\x82",
+              L"s", L"k", L"2", true, After::Bytes,
+              "[Gr\xFC\xDF]\r\nName=Ren\xE9\r\n[s]\r\nk=2\r\n"
+              "note=\x80\xC3(\xC3\xA9\xC0\xAF\xED\xA0\x80\xF4\x90\x80\x80\xFF\r\nend=\xE2\x82\r\n"),
         Write("Write_KeepsUtf16Be", Utf16BeFile(L"[s]\r\na=1\r\n"), L"s", L"a", L"2", true,
               After::Bytes, Utf16BeFile(L"[s]\r\na=2\r\n")),
         With(Write("Write_MissingFolderFails", "", L"s", L"k", L"v", false, After::Absent),
@@ -343,23 +372,6 @@ std::vector<ProfileCase> BuildCases() {
     };
 }
 
-void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-}
-
-std::optional<std::string> ReadBytes(const std::filesystem::path& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
-        return std::nullopt;
-    }
-    const auto size = std::filesystem::file_size(path, error);
-    std::string bytes(static_cast<size_t>(error ? 0 : size), '\0');
-    std::ifstream in(path, std::ios::binary);
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return bytes;
-}
-
 std::string Printable(std::string_view bytes) {
     static const char kHex[] = "0123456789ABCDEF";
     std::string out;
@@ -389,29 +401,6 @@ std::string Printable(std::wstring_view text) {
     }
     return out;
 }
-
-// A fresh folder per run: the Win32 functions cache files by path.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        static std::atomic<unsigned> counter{0};
-        const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
-        m_path = std::filesystem::temp_directory_path() /
-                 ("orva_profile_" + std::to_string(ticks) + "_" + std::to_string(++counter));
-        std::filesystem::create_directories(m_path);
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    const std::filesystem::path& Path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
-};
 
 uint32_t Call(IProfileApi& api, const ProfileCase& c, wchar_t* buffer, const wchar_t* file) {
     switch (c.call) {
@@ -456,29 +445,41 @@ const std::vector<ProfileCase>& ProfileCases() {
     return cases;
 }
 
+const std::vector<ProfileCase>& TinyBufferEngineCases() {
+    static const std::vector<ProfileCase> cases = {
+        Lines("Tiny_LinesSizeOne", kTwoKeys, L"s", 1, 0, L"\0"s),
+        Lines("Tiny_LinesSizeZero", kTwoKeys, L"s", 0, 0, L""s),
+        Lines("Tiny_MissingSectionLinesSizeOne", kTwoKeys, L"x", 1, 0, L"\0"s),
+        Read("Tiny_KeysSizeOne", kTwoKeys, L"s", nullptr, L"dd", 1, 0, L"\0"s),
+    };
+    return cases;
+}
+
 void RunProfileCase(IProfileApi& api, const ProfileCase& c, int repeats) {
-    TemporaryFolder folder;
-    std::filesystem::path path = folder.Path() / "profile.ini";
+    // A fresh folder per case: the Win32 functions cache files by path.
+    Orva::Testing::TempFolder folder;
+    const std::filesystem::path file = folder.Root() / "profile.ini";
+    std::filesystem::path path = file;
     switch (c.setup) {
         case FileSetup::Contents:
-            WriteBytes(path, c.bytes);
+            Orva::Testing::WriteFileBytes(path, c.bytes);
             break;
         case FileSetup::Missing:
             break;
         case FileSetup::MissingFolder:
-            path = folder.Path() / "absent" / "profile.ini";
+            path = folder.Root() / "absent" / "profile.ini";
             break;
         case FileSetup::Folder:
             std::filesystem::create_directories(path);
             break;
     }
-    const std::wstring file = path.wstring();
+    const std::wstring name = path.wstring();
     const int calls = c.call == ProfileCall::WriteString ? 1 : repeats;
     for (int round = 0; round < calls; ++round) {
         SCOPED_TRACE("call " + std::to_string(round + 1));
         std::vector<wchar_t> storage(c.size + 2 * kGuardChars, kFill);
         wchar_t* buffer = storage.data() + kGuardChars;
-        const uint32_t result = Call(api, c, buffer, file.c_str());
+        const uint32_t result = Call(api, c, buffer, name.c_str());
         const uint32_t lastError = api.LastError();
         EXPECT_EQ(result, c.expectedReturn);
         if (c.expectedLastError) {
@@ -492,31 +493,23 @@ void RunProfileCase(IProfileApi& api, const ProfileCase& c, int repeats) {
         EXPECT_EQ(before, std::wstring(kGuardChars, kFill)) << "wrote before the buffer";
         EXPECT_EQ(after, std::wstring(kGuardChars, kFill)) << "wrote past the buffer";
     }
-    const std::optional<std::string> now = ReadBytes(path);
+    const bool exists = std::filesystem::is_regular_file(path);
     switch (c.after) {
         case ProfileCase::After::NotChecked:
             break;
         case ProfileCase::After::Bytes:
-            ASSERT_TRUE(now.has_value()) << "the file is missing";
-            EXPECT_EQ(Printable(*now), Printable(c.expectedBytes));
-            break;
         case ProfileCase::After::Unchanged:
-            ASSERT_TRUE(now.has_value()) << "the file is missing";
-            EXPECT_EQ(Printable(*now), Printable(c.bytes));
+            ASSERT_TRUE(exists) << "the file is missing";
+            EXPECT_EQ(Printable(Orva::Testing::ReadFileBytes(path)),
+                      Printable(c.after == After::Bytes ? c.expectedBytes : c.bytes));
             break;
         case ProfileCase::After::Absent:
-            EXPECT_FALSE(now.has_value()) << "a file was created";
+            EXPECT_FALSE(exists) << "a file was created";
             break;
     }
     if (c.call == ProfileCall::WriteString) {
-        std::error_code ignored;
-        size_t leftovers = 0;
-        for (const auto& entry : std::filesystem::directory_iterator(folder.Path(), ignored)) {
-            if (entry.path().filename() != "profile.ini") {
-                ++leftovers;
-            }
-        }
-        EXPECT_EQ(leftovers, 0u) << "a temporary file was left behind";
+        EXPECT_EQ(folder.FileCount(), std::filesystem::exists(file) ? 1u : 0u)
+            << "a temporary file was left behind";
     }
 }
 
