@@ -23,9 +23,16 @@ void CListSenderName<Kind>::Parse(std::string_view record, SenderEntry& entry) c
     entry.name = IsStorableUtf8(value) ? DecodeValue(value) : std::wstring();
 }
 
+// A name often comes from a contact and may hold anything; it loses only what the file cannot
+// hold, never its entry.
 template <class Kind>
 bool CListSenderName<Kind>::Format(const SenderEntry& entry, std::string& record) const {
-    return AppendTagged(record, kNameOpen, entry.name, kNameClose);
+    const size_t start = record.size();
+    if (!AppendTagged(record, kNameOpen, entry.name, kNameClose)) {
+        record.resize(start);
+        AppendTagged(record, kNameOpen, StorableForm(entry.name), kNameClose);
+    }
+    return true;
 }
 
 template <class Kind>

@@ -18,7 +18,7 @@ public:
     // Takes the field's value out of a record body (UTF-8, as in the file) into `entry`.
     virtual void Parse(std::string_view record, SenderEntry& entry) const = 0;
     // Appends the field as tagged UTF-8 text to `record`; false when its value cannot be
-    // stored, and `record` is then to be dropped.
+    // stored, and `record` is then to be dropped. A name is stored in its StorableForm instead.
     virtual bool Format(const SenderEntry& entry, std::string& record) const = 0;
 };
 

@@ -24,11 +24,8 @@ bool IsBlank(Char c) {
     return c == Char(' ') || c == Char('\t');
 }
 
-// Whether wide text holds an ASCII needle.
-bool HoldsAscii(std::wstring_view text, std::string_view needle) {
-    if (text.size() < needle.size()) {
-        return false;
-    }
+// Where wide text holds an ASCII needle.
+size_t FindAscii(std::wstring_view text, std::string_view needle) {
     for (size_t at = 0; at + needle.size() <= text.size(); ++at) {
         size_t i = 0;
         while (i < needle.size() &&
@@ -36,10 +33,22 @@ bool HoldsAscii(std::wstring_view text, std::string_view needle) {
             ++i;
         }
         if (i == needle.size()) {
-            return true;
+            return at;
         }
     }
-    return false;
+    return std::wstring_view::npos;
+}
+
+bool HoldsAscii(std::wstring_view text, std::string_view needle) {
+    return FindAscii(text, needle) != std::wstring_view::npos;
+}
+
+bool IsHighSurrogate(uint32_t c) {
+    return c >= 0xD800 && c <= 0xDBFF;
+}
+
+bool IsLowSurrogate(uint32_t c) {
+    return c >= 0xDC00 && c <= 0xDFFF;
 }
 
 // Unpaired surrogates (or, with 32-bit wchar_t, values beyond Unicode) would come back from
@@ -126,6 +135,41 @@ bool IsStorableValue(std::wstring_view value) {
         }
     }
     return !mayHoldSurrogate || HasOnlyScalarValues(value);
+}
+
+std::wstring StorableForm(std::wstring_view value) {
+    std::wstring kept;
+    kept.reserve(value.size());
+    for (size_t i = 0; i < value.size(); ++i) {
+        const auto c = static_cast<uint32_t>(value[i]);
+        if constexpr (sizeof(wchar_t) == 2) {
+            if (IsHighSurrogate(c) && i + 1 < value.size() &&
+                IsLowSurrogate(static_cast<uint32_t>(value[i + 1]))) {
+                kept.append(value.substr(i, 2));
+                ++i;
+                continue;
+            }
+        }
+        const bool control = c < 0x20 && c != 0x09;
+        if (!control && !(c >= 0xD800 && c <= 0xDFFF) && c <= 0x10FFFF) {
+            kept.push_back(value[i]);
+        }
+    }
+    // Taking a tag out can join the text around it into another tag.
+    for (bool removed = true; removed;) {
+        removed = false;
+        for (const std::string_view tag : kEveryTag) {
+            if (const size_t at = FindAscii(kept, tag); at != std::wstring::npos) {
+                kept.erase(at, tag.size());
+                removed = true;
+            }
+        }
+    }
+    const size_t first = kept.find_first_not_of(L" \t");
+    if (first == std::wstring::npos) {
+        return {};
+    }
+    return kept.substr(first, kept.find_last_not_of(L" \t") - first + 1);
 }
 
 bool IsStorableUtf8(std::string_view value) {

@@ -20,6 +20,10 @@ std::wstring CollapseStars(std::wstring_view address);
 // space or tab at either end (reading trims them).
 bool IsStorableValue(std::wstring_view value);
 
+// The value with what IsStorableValue refuses taken out: control characters but the tab, what
+// is not a Unicode scalar value and every tag text; then the blanks at its ends.
+std::wstring StorableForm(std::wstring_view value);
+
 // The wide text of a UTF-8 value; plain ASCII, the common case, is widened without decoding.
 std::wstring DecodeValue(std::string_view utf8);
 

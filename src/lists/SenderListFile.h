@@ -10,6 +10,7 @@
 #include "lists/ListPersist.h"
 #include "lists/ListText.h"
 #include "lists/SenderEntry.h"
+#include "settings/log/DebugLog.h"
 
 namespace Orva::Lists {
 
@@ -54,7 +55,7 @@ struct SenderListFile {
         });
     }
 
-    // Appends the entry's record line; an entry whose values could not be read back unchanged
+    // Appends the entry's record line; an entry whose address could not be read back unchanged
     // is left out rather than damage the file.
     static void AppendRecordLine(const SenderEntry& entry, std::string& bytes) {
         const size_t start = bytes.size();
@@ -62,6 +63,10 @@ struct SenderListFile {
         if (entry.address.empty() || !CListSenderName<Kind>::Instance().Format(entry, bytes) ||
             !CListSenderAddr<Kind>::Instance().Format(entry, bytes)) {
             bytes.resize(start);
+            ZelCommon::Library::TheLog().LogMessage(
+                ZelCommon::Library::LogError, "BlackList", __LINE__,
+                L"xxx CBListSet::Save left out the entry of an address that cannot be written: %s",
+                StorableForm(entry.address));
             return;
         }
         bytes.append(Kind::kRecordClose);
