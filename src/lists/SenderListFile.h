@@ -37,9 +37,12 @@ struct SenderListFile {
     // is missing or its first line holds no accepted header.
     template <class Add>
     static void Read(const std::wstring& path, Add&& add) {
-        const std::optional<std::string> bytes = ReadWholeFile(path);
+        std::optional<std::string> bytes = ReadWholeFile(path);
         if (!bytes) {
             return;
+        }
+        if (IsUtf16LeText(*bytes)) {
+            bytes = Utf16LeTextToUtf8(*bytes);
         }
         bool first = true;
         ForEachLine(SkipUtf8Mark(*bytes), [&](std::string_view line) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ListTestFiles.h"
+#include "common_src/platform/TextCodec.h"
 #include "lists/SenderListSet.h"
 
 namespace Orva::Lists {
@@ -169,17 +170,23 @@ TEST_F(SenderListFileTest, Load_OldHeaderLoadsAndSaveRewritesIt) {
               ReadFileBytes(m_path));
 }
 
-TEST_F(SenderListFileTest, Load_CrLfAndLfFilesReadTheSame) {
-    const std::string lf = std::string(kHeader) + "\n" + BlockedRecord("A  B", "a@b.com") + "\n" +
-                           BlockedRecord("C", "c@d.com") + "\n";
+// The runtime's UTF-8 text mode lets a file's mark decide: a UTF-16LE mark reads UTF-16.
+TEST_F(SenderListFileTest, Load_LineEndsAndMarksReadTheSame) {
+    const std::string lf = std::string(kHeader) + "\n" + BlockedRecord("J\xC3\xBCrgen", "a@b.com") +
+                           "\n" + BlockedRecord("C", "c@d.com") + "\n";
     std::string crlf;
     for (const char c : lf) {
         crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
     }
+    const auto utf16 = [](const std::string& utf8) {
+        return "\xFF\xFE" + ZelCommon::Text::WideToUtf16Le(ZelCommon::Text::Utf8ToWide(utf8));
+    };
     const auto fromLf = LoadBlocked(lf);
-    EXPECT_EQ(2u, fromLf.size());
+    EXPECT_EQ((std::vector<SenderEntry>{{L"J\u00fcrgen", L"a@b.com"}, {L"C", L"c@d.com"}}), fromLf);
     EXPECT_EQ(fromLf, LoadBlocked(crlf));
     EXPECT_EQ(fromLf, LoadBlocked(std::string(kMark) + crlf));
+    EXPECT_EQ(fromLf, LoadBlocked(utf16(crlf)));
+    EXPECT_EQ(fromLf, LoadBlocked(utf16(lf) + "\x01"));
 }
 
 TEST_F(SenderListFileTest, Load_LastLineWithoutLineEndCounts) {
