@@ -3,6 +3,7 @@
 #include <limits>
 #include <optional>
 
+#include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
 #include "lists/AtomicFile.h"
 #include "lists/ListFileText.h"
@@ -111,6 +112,10 @@ std::wstring CEncodingSet::Format() const {
 
 void CEncodingSet::Load(const std::wstring& path) {
     Clear();
+    // A folder is never handed to ReadWholeFile: natively its size reads as unbounded.
+    if (ZelCommon::Path::FolderExists(path)) {
+        return;
+    }
     if (const std::optional<std::string> bytes = ReadWholeFile(path)) {
         Parse(DecodeListText(*bytes));
     }

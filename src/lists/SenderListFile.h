@@ -4,7 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "common_src/platform/Path.h"
 #include "lists/AtomicFile.h"
+#include "lists/ListFileStatus.h"
 #include "lists/ListFileText.h"
 #include "lists/ListKinds.h"
 #include "lists/ListPersist.h"
@@ -33,22 +35,28 @@ struct SenderListFile {
         return entry;
     }
 
-    // Calls add(SenderEntry&&) for every record in file order. Nothing is added when the file
-    // is missing or its first line holds no accepted header.
+    // Calls add(SenderEntry&&) for every record in file order. Nothing is added unless the
+    // file's first line holds an accepted header.
     template <class Add>
-    static void Read(const std::wstring& path, Add&& add) {
+    static ListLoad Read(const std::wstring& path, Add&& add) {
+        // A folder is never handed to ReadWholeFile: natively its size reads as unbounded.
+        if (ZelCommon::Path::FolderExists(path)) {
+            return ListLoad::Unreadable;
+        }
         std::optional<std::string> bytes = ReadWholeFile(path);
         if (!bytes) {
-            return;
+            return ZelCommon::Path::FileExists(path) ? ListLoad::Unreadable : ListLoad::Absent;
         }
         if (IsUtf16LeText(*bytes)) {
             bytes = Utf16LeTextToUtf8(*bytes);
         }
         bool first = true;
+        bool accepted = false;
         ForEachLine(SkipUtf8Mark(*bytes), [&](std::string_view line) {
             if (first) {
                 first = false;
-                return HasAcceptedHeader(line);
+                accepted = HasAcceptedHeader(line);
+                return accepted;
             }
             SenderEntry entry = ParseLine(line);
             if (!entry.address.empty()) {
@@ -56,6 +64,7 @@ struct SenderListFile {
             }
             return true;
         });
+        return accepted ? ListLoad::Loaded : ListLoad::RejectedHeader;
     }
 
     // Appends the entry's record line; an entry whose address could not be read back unchanged

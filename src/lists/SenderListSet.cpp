@@ -143,20 +143,32 @@ bool CSenderListSet<Kind>::Modify(const wchar_t* oldAddress, const std::wstring&
 }
 
 template <class Kind>
-void CSenderListSet<Kind>::Load(const std::wstring& path) {
+ListLoad CSenderListSet<Kind>::Load(const std::wstring& path) {
     boost::upgrade_lock<boost::upgrade_mutex> upgradeable(m_lock);
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
     m_entries.clear();
     m_wildcards.clear();
-    SenderListFile<Kind>::Read(path, [this](SenderEntry&& entry) { AddLoaded(std::move(entry)); });
+    const ListLoad load = SenderListFile<Kind>::Read(
+        path, [this](SenderEntry&& entry) { AddLoaded(std::move(entry)); });
+    m_refusedFile = MayWriteOver(load) ? std::wstring() : path;
+    return load;
 }
 
 template <class Kind>
 int CSenderListSet<Kind>::Save(const std::wstring& path) {
+    SaveTo(path);
+    return 1;
+}
+
+template <class Kind>
+ListSave CSenderListSet<Kind>::SaveTo(const std::wstring& path) {
     boost::upgrade_lock<boost::upgrade_mutex> upgradeable(m_lock);
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
-    SenderListFile<Kind>::Write(path, SenderListFile<Kind>::Format(std::views::values(m_entries)));
-    return 1;
+    if (!m_refusedFile.empty() && path == m_refusedFile) {
+        return ListSave::KeptRefusedFile;
+    }
+    const std::string bytes = SenderListFile<Kind>::Format(std::views::values(m_entries));
+    return SenderListFile<Kind>::Write(path, bytes) ? ListSave::Saved : ListSave::Unwritable;
 }
 
 template <class Kind>

@@ -8,6 +8,7 @@
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/shared_mutex.hpp>
 
+#include "lists/ListFileStatus.h"
 #include "lists/ListKinds.h"
 #include "lists/SenderEntry.h"
 
@@ -37,10 +38,14 @@ public:
     bool Modify(const wchar_t* oldAddress, const std::wstring& newName,
                 const std::wstring& newAddress);
 
-    // Replaces the set with the file's entries; a missing or foreign file leaves it empty.
-    void Load(const std::wstring& path);
+    // Replaces the set with the file's entries; a file that is not Loaded leaves it empty.
+    ListLoad Load(const std::wstring& path);
     // Always 1: a file that cannot be written leaves the old one and is not reported.
     int Save(const std::wstring& path);
+    // Save, telling what happened. The file that the last Load refused (RejectedHeader,
+    // Unreadable) is never written over: it may be another program's, or a list this version
+    // cannot read.
+    ListSave SaveTo(const std::wstring& path);
 
     size_t Count() const;
     // The entries in key order.
@@ -54,6 +59,7 @@ private:
     mutable boost::upgrade_mutex m_lock;
     std::map<std::wstring, SenderEntry> m_entries;
     std::map<std::wstring, uint32_t> m_wildcards;
+    std::wstring m_refusedFile;
 };
 
 extern template class CSenderListSet<BlockedList>;

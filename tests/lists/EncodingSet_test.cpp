@@ -46,14 +46,17 @@ TEST(CEncodingSet, Load_ReadsWhatSaveWrote) {
     EXPECT_EQ(saved.Groups(), loaded.Groups());
 }
 
-TEST(CEncodingSet, Load_MissingFileGivesEmptySet) {
+TEST(CEncodingSet, Load_MissingFileOrFolderGivesEmptySet) {
     Testing::TempFolder folder;
-    CEncodingSet set;
-    set.SetValue(4);
-    set.AddGroup(L"Thai", Group(true, {874}));
-    set.Load(folder.File(L"none.dat"));
-    EXPECT_EQ(0, set.Value());
-    EXPECT_TRUE(set.Groups().empty());
+    std::filesystem::create_directories(std::filesystem::path(folder.File(L"folder.dat")));
+    for (const wchar_t* name : {L"none.dat", L"folder.dat"}) {
+        CEncodingSet set;
+        set.SetValue(4);
+        set.AddGroup(L"Thai", Group(true, {874}));
+        set.Load(folder.File(name));
+        EXPECT_EQ(0, set.Value());
+        EXPECT_TRUE(set.Groups().empty());
+    }
 }
 
 TEST(CEncodingSet, Parse_AnyFirstLineStillLoadsFromLineThree) {

@@ -94,6 +94,23 @@ TEST_F(SenderListFileTest, Save_TargetThatCannotBeReplacedLeavesNoTemporaryFile)
     EXPECT_TRUE(std::filesystem::is_directory(std::filesystem::path(m_path)));
 }
 
+// A file that is not a list this version reads may be another program's, or a newer list.
+TEST_F(SenderListFileTest, Save_NeverWritesOverTheFileALoadRefused) {
+    const std::string foreign = "my notes\n" + BlockedRecord("", "a@b.com") + "\n";
+    WriteFileBytes(m_path, foreign);
+    CBListSet set;
+    set.Load(m_path);
+    set.Add(L"new@b.com", {L"", L"new@b.com"});
+    EXPECT_EQ(1, set.Save(m_path));
+    EXPECT_EQ(ListSave::KeptRefusedFile, set.SaveTo(m_path));
+    EXPECT_EQ(foreign, ReadFileBytes(m_path));
+    EXPECT_EQ(ListSave::Saved, set.SaveTo(m_folder.File(L"elsewhere.dat")));
+    // Once a load accepts the file, it may be written again.
+    WriteFileBytes(m_path, std::string(kHeader) + "\n");
+    EXPECT_EQ(ListLoad::Loaded, set.Load(m_path));
+    EXPECT_EQ(ListSave::Saved, set.SaveTo(m_path));
+}
+
 TEST_F(SenderListFileTest, Load_ReadsWhatSaveWrote) {
     CBListSet saved;
     saved.Add(L"B@x.org", {L"Bee", L"B@x.org"});
@@ -114,11 +131,16 @@ TEST_F(SenderListFileTest, Load_ReplacesEarlierContent) {
     EXPECT_TRUE(set.WildcardKeys().empty());
 }
 
-TEST_F(SenderListFileTest, Load_MissingFileGivesEmptyList) {
-    CBListSet set;
-    set.Add(L"gone@b.com", {L"", L"gone@b.com"});
-    set.Load(m_folder.File(L"nothing.dat"));
-    EXPECT_EQ(0u, set.Count());
+TEST_F(SenderListFileTest, Load_MissingOrUnreadableFileGivesEmptyList) {
+    const std::wstring folder = m_folder.File(L"folder.dat");
+    std::filesystem::create_directories(std::filesystem::path(folder));
+    for (const auto& [path, load] : {std::pair(m_folder.File(L"nothing.dat"), ListLoad::Absent),
+                                     std::pair(folder, ListLoad::Unreadable)}) {
+        CBListSet set;
+        set.Add(L"gone@b.com", {L"", L"gone@b.com"});
+        EXPECT_EQ(load, set.Load(path));
+        EXPECT_EQ(0u, set.Count());
+    }
 }
 
 struct HeaderCase {
@@ -135,9 +157,10 @@ class SenderListHeaderTest : public SenderListFileTest,
                              public ::testing::WithParamInterface<HeaderCase> {};
 
 TEST_P(SenderListHeaderTest, Load_AcceptsOnlyTheFamilysHeaders) {
-    const auto entries =
-        LoadBlocked(GetParam().firstLine + "\n" + BlockedRecord("N", "a@b.com") + "\n");
-    EXPECT_EQ(GetParam().accepted ? 1u : 0u, entries.size());
+    WriteFileBytes(m_path, GetParam().firstLine + "\n" + BlockedRecord("N", "a@b.com") + "\n");
+    CBListSet set;
+    EXPECT_EQ(GetParam().accepted ? ListLoad::Loaded : ListLoad::RejectedHeader, set.Load(m_path));
+    EXPECT_EQ(GetParam().accepted ? 1u : 0u, set.Count());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -151,7 +174,8 @@ INSTANTIATE_TEST_SUITE_P(
         HeaderCase{"BlankFirstLine", "", false},
         HeaderCase{"OtherProduct", "; Written by Other v1.0 (c) 2005 Halvion", false},
         HeaderCase{"LowerCase", "; written by orva v3.5 (c) 2005 halvion", false},
-        HeaderCase{"Record", BlockedRecord("", "x@b.com"), false}),
+        HeaderCase{"Record", BlockedRecord("", "x@b.com"), false},
+        HeaderCase{"Utf16Mark", "\xFF\xFE", false}),
     [](const auto& test) { return std::string(test.param.label); });
 
 TEST_F(SenderListFileTest, Load_HeaderOnSecondLineRejectsWholeFile) {
