@@ -2,7 +2,7 @@
 
 #include "common_src/platform/TextCodec.h"
 #include "lists/ListKinds.h"
-#include "lists/ListText.h"
+#include "lists/ValueCodec.h"
 
 namespace Orva::Lists {
 

@@ -11,14 +11,16 @@
 #include "lists/ListFileStatus.h"
 #include "lists/ListKinds.h"
 #include "lists/SenderEntry.h"
+#include "lists/SenderIndex.h"
 
 namespace Orva::Lists {
 
 // Results of Add.
 enum AddResult : int { kAddExisted = 0, kAddAdded = 1, kAddFull = 2 };
 
-// One sender list in memory, keyed by the lower-cased address, with an index of the keys that
-// hold "*". Finds share the lock; changes, load and save take it upgradeable, then unique.
+// One sender list in memory: the entries ordered by their key, the lower-cased address, and an
+// index of the keys that hold "*". Finds share the lock; changes, load and save take it
+// upgradeable, then unique.
 template <class Kind>
 class CSenderListSet {
 public:
@@ -54,10 +56,11 @@ public:
     std::vector<std::wstring> WildcardKeys() const;
 
 private:
-    int AddLoaded(SenderEntry&& entry);
+    int AddLoaded(SenderEntry&& entry, std::string_view formattedLine);
 
     mutable boost::upgrade_mutex m_lock;
-    std::map<std::wstring, SenderEntry> m_entries;
+    SenderIndex m_entries;
+    std::string m_fileText;  // the loaded file's text, which entries' formatted lines point into
     std::map<std::wstring, uint32_t> m_wildcards;
     std::wstring m_refusedFile;
 };

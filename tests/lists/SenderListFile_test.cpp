@@ -111,6 +111,30 @@ TEST_F(SenderListFileTest, Save_NeverWritesOverTheFileALoadRefused) {
     EXPECT_EQ(ListSave::Saved, set.SaveTo(m_path));
 }
 
+// A save copies the record lines it loaded unchanged; a line that reading changed in any way
+// must be formatted afresh.
+TEST_F(SenderListFileTest, Save_AfterLoad_WritesWhatFormattingTheEntriesWrites) {
+    WriteFileBytes(
+        m_path, std::string(kHeader) + "\r\n" + BlockedRecord("Ann \xC3\xA9", "ann@b.com") +
+                    "\r\n" + BlockedRecord(" Bob\t", "bob@b.com") + "\n" +
+                    BlockedRecord("Cy", " cy@b.com") + "\n" + BlockedRecord("", "**@d.com") + "\n" +
+                    BlockedRecord("E\xFF", "e@b.com") + "\n" + BlockedRecord("F\x01", "f@b.com") +
+                    "\n" + BlockedRecord("G", "G@B.com") + "\n" + BlockedRecord("Dup", "g@b.com") +
+                    "\n" + "x" + BlockedRecord("H", "h@b.com") + "\n" +
+                    BlockedRecord("I", "i@b.com"));
+    CBListSet loaded;
+    loaded.Load(m_path);
+    CBListSet fresh;
+    for (const SenderEntry& entry : loaded.Entries()) {
+        fresh.Add(entry.address.c_str(), entry);
+    }
+    const std::wstring freshPath = m_folder.File(L"fresh.dat");
+    fresh.Save(freshPath);
+    loaded.Save(m_path);
+    EXPECT_EQ(9u, loaded.Count());
+    EXPECT_EQ(ReadFileBytes(freshPath), ReadFileBytes(m_path));
+}
+
 TEST_F(SenderListFileTest, Load_ReadsWhatSaveWrote) {
     CBListSet saved;
     saved.Add(L"B@x.org", {L"Bee", L"B@x.org"});

@@ -83,9 +83,8 @@ std::optional<std::wstring> LoadList(const std::wstring& path, CSenderListSet<Ki
 }
 
 template <class Kind>
-std::optional<std::wstring> SaveList(const std::wstring& path, const CSenderListSet<Kind>& set) {
-    const std::string bytes = Lists::SenderListFile<Kind>::Format(set.Entries());
-    if (!Lists::SenderListFile<Kind>::Write(path, bytes)) {
+std::optional<std::wstring> SaveList(const std::wstring& path, CSenderListSet<Kind>& set) {
+    if (set.SaveTo(path) != Lists::ListSave::Saved) {
         return path + L": cannot be written";
     }
     return std::nullopt;
