@@ -3,70 +3,46 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "support/fakes/platform/FakeWindowMessaging.h"
 
 namespace {
 
-using Fakes = ZelCommon::Fakes::FakeWindowMessaging;
-
-const std::wstring kAgentTitle = L"{56639265-C81B-440d-B5CD-3A7ED4F42777}";
-const std::wstring kSuiteTitle = L"{665DABCD-BE48-4086-8688-7BF074B6B8E4}";
-
-struct Received {
-    uint32_t message;
-    uintptr_t wParam;
-    intptr_t lParam;
-    Fakes::Delivery delivery;
-    bool operator==(const Received&) const = default;
-};
-
-// Windows that keep what reaches them.
-class Desktop {
-public:
-    void Open(const std::wstring& title) {
-        const auto window = messaging.AddWindow(title);
-        messaging.SetHandler(window, [this, title](const Fakes::Message& m) {
-            received[title].push_back({m.message, m.wParam, m.lParam, m.delivery});
-            return intptr_t{0};
-        });
-    }
-
-    Fakes messaging;
-    std::map<std::wstring, std::vector<Received>> received;
-};
+using Orva::Lists::IListChangeNotifier;
+using Windows = ZelCommon::Fakes::FakeWindowMessaging;
+// A window's title, then what reached it: the message, its parameters, and whether it was posted.
+using Received = std::tuple<std::wstring, uint32_t, uintptr_t, intptr_t, bool>;
 
 struct NotifyCase {
-    const char* label;
     bool agentRunning;
-    void (Orva::Lists::IListChangeNotifier::*notify)();
-    std::map<std::wstring, std::vector<Received>> expected;
+    void (IListChangeNotifier::*notify)();
+    std::vector<Received> expected;
 };
 
 TEST(AgentListNotifier, PostsTheChangeToTheAgentWindowOnlyWhenItExists) {
+    const std::wstring agent = L"{56639265-C81B-440d-B5CD-3A7ED4F42777}";
+    const std::wstring suite = L"{665DABCD-BE48-4086-8688-7BF074B6B8E4}";
     const NotifyCase cases[] = {
-        {"SenderLists",
-         true,
-         &Orva::Lists::IListChangeNotifier::SenderListsChanged,
-         {{kAgentTitle, {{1033, 0, 0, Fakes::Delivery::Posted}}}}},
-        {"Encodings",
-         true,
-         &Orva::Lists::IListChangeNotifier::EncodingsChanged,
-         {{kAgentTitle, {{1034, 0, 0, Fakes::Delivery::Posted}}}}},
-        {"NoAgent", false, &Orva::Lists::IListChangeNotifier::SenderListsChanged, {}},
+        {true, &IListChangeNotifier::SenderListsChanged, {{agent, 1033, 0, 0, true}}},
+        {true, &IListChangeNotifier::EncodingsChanged, {{agent, 1034, 0, 0, true}}},
+        {false, &IListChangeNotifier::SenderListsChanged, {}},
     };
     for (const NotifyCase& test : cases) {
-        Desktop desktop;
-        desktop.Open(kSuiteTitle);
-        if (test.agentRunning) {
-            desktop.Open(kAgentTitle);
+        Windows windows;
+        std::vector<Received> received;
+        for (const std::wstring& title : {suite, test.agentRunning ? agent : std::wstring()}) {
+            windows.SetHandler(windows.AddWindow(title), [&, title](const Windows::Message& m) {
+                received.emplace_back(title, m.message, m.wParam, m.lParam,
+                                      m.delivery == Windows::Delivery::Posted);
+                return intptr_t{0};
+            });
         }
-        Orva::Plugin::CAgentListNotifier notifier(desktop.messaging);
+        Orva::Plugin::CAgentListNotifier notifier(windows);
         (notifier.*test.notify)();
-        EXPECT_EQ(test.expected, desktop.received) << test.label;
+        EXPECT_EQ(test.expected, received);
     }
 }
 
