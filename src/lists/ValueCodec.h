@@ -16,7 +16,7 @@ inline constexpr size_t kMaxUtf8PerUnit = sizeof(wchar_t) == 2 ? 3 : 4;
 
 // How a value read between its tags came out.
 enum class ValueRead {
-    Refused,    // it could not have been written (see IsStorableValue); `out` is unspecified
+    Refused,    // it could not have been written (see IsStorableValue); `out` holds anything
     Decoded,    // decoded, broken sequences as U+FFFD: writing it may give other bytes
     AsWritten,  // decoded from well-formed UTF-8: writing it gives these bytes back
 };

@@ -54,6 +54,9 @@ TEST_F(SenderListEditorTest, Edits_CheckBothListsAndChangeOnlyOnSuccess) {
             return e.Modify(SenderList::Blocked, old, L"New", address, onConflict);
         };
     };
+    const auto check = [](std::wstring address) {
+        return [=](CSenderListEditor& e) { return e.Check(SenderList::Blocked, L"", address); };
+    };
     const auto remove = [](std::wstring address) {
         return [=](CSenderListEditor& e) { return e.Remove(SenderList::Blocked, address); };
     };
@@ -86,6 +89,9 @@ TEST_F(SenderListEditorTest, Edits_CheckBothListsAndChangeOnlyOnSuccess) {
         {"RemoveWhateverCaseAndStarRuns", remove(L" ***@S.com"), Done, {}, approved,
          {{L"A", L"a@b.com"}}},
         {"RemoveAbsent", remove(L"x@b.com"), NotFound, {}, approved, blocked},
+        {"CheckAsks", check(L"Friend@b.com"), InOtherList, conflict, approved, blocked},
+        {"CheckExisting", check(L" A@b.com"), Existed, existed, approved, blocked},
+        {"CheckFree", check(L"new@b.com"), Done, {}, approved, blocked},
     };
     // clang-format on
     for (const EditCase& test : cases) {
