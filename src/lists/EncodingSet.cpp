@@ -2,7 +2,6 @@
 
 #include <limits>
 #include <optional>
-#include <string>
 
 #include "common_src/platform/AtomicFile.h"
 #include "common_src/platform/WideFormat.h"

@@ -2,7 +2,7 @@
 
 #include "common_src/platform/TextCodec.h"
 #include "lists/ListKinds.h"
-#include "lists/ListText.h"
+#include "lists/ValueCodec.h"
 
 namespace Orva::Lists {
 
@@ -13,7 +13,19 @@ std::string_view SkipUtf8Mark(std::string_view bytes) {
     return bytes;
 }
 
+bool IsUtf16LeText(std::string_view bytes) {
+    return bytes.starts_with(kUtf16LeMark);
+}
+
+std::string Utf16LeTextToUtf8(std::string_view bytes) {
+    return ZelCommon::Text::WideToUtf8(
+        ZelCommon::Text::Utf16LeToWide(bytes.substr(kUtf16LeMark.size())));
+}
+
 std::wstring DecodeListText(std::string_view bytes) {
+    if (IsUtf16LeText(bytes)) {
+        return ZelCommon::Text::Utf16LeToWide(bytes.substr(kUtf16LeMark.size()));
+    }
     return ZelCommon::Text::Utf8ToWide(SkipUtf8Mark(bytes));
 }
 

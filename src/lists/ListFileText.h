@@ -8,10 +8,16 @@ namespace Orva::Lists {
 // The UTF-8 byte-order mark that the Windows runtime's UTF-8 text mode writes when it creates a
 // file and skips when it reads one.
 inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+// Reading in that mode, the runtime lets a file's mark decide: this one makes it read UTF-16LE.
+inline constexpr std::string_view kUtf16LeMark = "\xFF\xFE";
 
 // The bytes after a leading byte-order mark, if any.
 std::string_view SkipUtf8Mark(std::string_view bytes);
-// The text of a UTF-8 file, with or without a byte-order mark.
+// Whether a file's bytes are UTF-16LE text by their mark.
+bool IsUtf16LeText(std::string_view bytes);
+// The UTF-8 text of a UTF-16LE file's bytes (after the mark).
+std::string Utf16LeTextToUtf8(std::string_view bytes);
+// The text of a file: UTF-8 with or without a byte-order mark, or UTF-16LE with one.
 std::wstring DecodeListText(std::string_view bytes);
 // The bytes of a file: the byte-order mark, then the text as UTF-8.
 std::string EncodeListText(std::wstring_view text);

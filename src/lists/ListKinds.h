@@ -26,6 +26,18 @@ inline constexpr std::string_view kNameClose = "<\\SN_ATTR>";
 inline constexpr std::string_view kAddressOpen = "<SA_ATTR>";
 inline constexpr std::string_view kAddressClose = "<\\SA_ATTR>";
 
+// Every tag of both lists: no value may hold one, or reading would cut it there.
+inline constexpr std::string_view kEveryTag[] = {
+    BlockedList::kRecordOpen,
+    BlockedList::kRecordClose,
+    ApprovedList::kRecordOpen,
+    ApprovedList::kRecordClose,
+    kNameOpen,
+    kNameClose,
+    kAddressOpen,
+    kAddressClose,
+};
+
 // The only header ever written, and every header a list file may start with.
 inline constexpr std::string_view kWrittenHeader = "; Written by ORVA v3.5 (c) 2005 Halvion";
 inline constexpr std::string_view kAcceptedHeaders[] = {

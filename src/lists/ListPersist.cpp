@@ -1,61 +1,36 @@
 #include "lists/ListPersist.h"
 
-#include "lists/ListText.h"
-
 namespace Orva::Lists {
-namespace {
-
-bool AppendTagged(std::string& record, std::string_view open, std::wstring_view value,
-                  std::string_view close) {
-    record.append(open);
-    if (!AppendStorableUtf8(record, value)) {
-        return false;
-    }
-    record.append(close);
-    return true;
-}
-
-}  // namespace
 
 template <class Kind>
 void CListSenderName<Kind>::Parse(std::string_view record, SenderEntry& entry) const {
-    const std::string_view value = ExtractTaggedValue(record, kNameOpen, kNameClose);
-    entry.name = IsStorableUtf8(value) ? DecodeValue(value) : std::wstring();
+    ParseValue(ExtractTaggedValue(record, kNameOpen, kNameClose), entry);
 }
 
 template <class Kind>
-bool CListSenderName<Kind>::Format(const SenderEntry& entry, std::string& record) const {
-    return AppendTagged(record, kNameOpen, entry.name, kNameClose);
-}
-
-template <class Kind>
-const CListSenderName<Kind>& CListSenderName<Kind>::Instance() {
-    static const CListSenderName instance;
-    return instance;
+ValueRead CListSenderName<Kind>::ParseValue(std::string_view value, SenderEntry& entry) const {
+    const ValueRead read = DecodeStoredValue(value, entry.name);
+    if (read == ValueRead::Refused) {
+        entry.name.clear();
+    }
+    return read;
 }
 
 template <class Kind>
 void CListSenderAddr<Kind>::Parse(std::string_view record, SenderEntry& entry) const {
-    const std::string_view value = ExtractTaggedValue(record, kAddressOpen, kAddressClose);
-    if (!IsStorableUtf8(value)) {
+    ParseValue(ExtractTaggedValue(record, kAddressOpen, kAddressClose), entry);
+}
+
+template <class Kind>
+ValueRead CListSenderAddr<Kind>::ParseValue(std::string_view value, SenderEntry& entry) const {
+    const ValueRead read = DecodeStoredValue(value, entry.address);
+    if (read == ValueRead::Refused) {
         entry.address.clear();
-        return;
-    }
-    entry.address = DecodeValue(value);
-    if (value.find("**") != std::string_view::npos) {
+    } else if (value.find("**") != std::string_view::npos) {
         entry.address = CollapseStars(entry.address);
+        return ValueRead::Decoded;
     }
-}
-
-template <class Kind>
-bool CListSenderAddr<Kind>::Format(const SenderEntry& entry, std::string& record) const {
-    return AppendTagged(record, kAddressOpen, entry.address, kAddressClose);
-}
-
-template <class Kind>
-const CListSenderAddr<Kind>& CListSenderAddr<Kind>::Instance() {
-    static const CListSenderAddr instance;
-    return instance;
+    return read;
 }
 
 template class CListSenderName<BlockedList>;

@@ -12,6 +12,9 @@ namespace Orva::Lists {
 std::string_view ExtractTaggedValue(std::string_view line, std::string_view open,
                                     std::string_view close);
 
+// The value without the spaces and tabs at its ends, as reading trims every value.
+std::string_view TrimTagBlanks(std::string_view value);
+
 // Reduces every run of "*" to one "*".
 std::wstring CollapseStars(std::wstring_view address);
 
@@ -20,18 +23,11 @@ std::wstring CollapseStars(std::wstring_view address);
 // space or tab at either end (reading trims them).
 bool IsStorableValue(std::wstring_view value);
 
-// The wide text of a UTF-8 value; plain ASCII, the common case, is widened without decoding.
-std::wstring DecodeValue(std::string_view utf8);
+// The value with what IsStorableValue refuses taken out: control characters but the tab, what
+// is not a Unicode scalar value and every tag text; then the blanks at its ends.
+std::wstring StorableForm(std::wstring_view value);
 
-// IsStorableValue for a value still in UTF-8, as read from a file: the decoder turns broken
-// sequences into U+FFFD and never yields a lone surrogate, so only the ASCII rules remain.
-bool IsStorableUtf8(std::string_view value);
-
-// Appends `text` to `out` as UTF-8; what is not a scalar value becomes U+FFFD.
-void AppendUtf8(std::string& out, std::wstring_view text);
-
-// Appends `value` as UTF-8 when IsStorableValue holds for it, in one pass over the text, as a
-// whole list is saved value after value. False, with `out` in an unspecified state, otherwise.
-bool AppendStorableUtf8(std::string& out, std::wstring_view value);
+// Whether UTF-8 text holds the text of a tag of either list.
+bool HoldsTagText(std::string_view utf8);
 
 }  // namespace Orva::Lists

@@ -1,8 +1,5 @@
 #include "lists/SenderListSet.h"
 
-#include <ranges>
-
-#include "common_src/platform/TextCodec.h"
 #include "lists/SenderListFile.h"
 #include "settings/log/DebugLog.h"
 
@@ -15,8 +12,8 @@ using ZelCommon::Library::TheLog;
 // The approved twin is the same class, so both lists write the blocked list's log texts.
 constexpr const char* kLogSource = "BlackList";
 
-bool HoldsStar(const std::wstring& key) {
-    return key.find(L'*') != std::wstring::npos;
+bool HoldsStar(std::wstring_view key) {
+    return key.find(L'*') != std::wstring_view::npos;
 }
 
 }  // namespace
@@ -27,9 +24,9 @@ bool CSenderListSet<Kind>::Find(const wchar_t* address) const {
         return false;
     }
     TheLog().LogMessage(LogInfo, kLogSource, __LINE__, L"CBListSet::Find %s", address);
-    const std::wstring key = ZelCommon::Text::ToLower(address);
+    const std::wstring key = ListKeyOf(address);
     boost::shared_lock<boost::upgrade_mutex> shared(m_lock);
-    if (!m_entries.contains(key)) {
+    if (m_entries.Find(key) == nullptr) {
         return false;
     }
     TheLog().LogMessage(LogInfo, kLogSource, __LINE__, L"CBListSet::Find %s", address);
@@ -42,14 +39,14 @@ bool CSenderListSet<Kind>::Find(const wchar_t* address, const wchar_t* name) con
         return false;
     }
     TheLog().LogMessage(LogInfo, kLogSource, __LINE__, L"CBListSet::Find %s", address);
-    const std::wstring key = ZelCommon::Text::ToLower(address);
+    const std::wstring key = ListKeyOf(address);
     boost::shared_lock<boost::upgrade_mutex> shared(m_lock);
-    const auto found = m_entries.find(key);
-    if (found == m_entries.end()) {
+    const KeyedEntry* found = m_entries.Find(key);
+    if (found == nullptr) {
         return false;
     }
     TheLog().LogMessage(LogInfo, kLogSource, __LINE__, L"CBListSet::Find %s", address);
-    return found->second.name == name;
+    return found->Entry().name == name;
 }
 
 template <class Kind>
@@ -62,39 +59,34 @@ int CSenderListSet<Kind>::Add(const wchar_t* address, const SenderEntry& entry) 
     if (m_entries.size() >= kListLimit) {
         return kAddFull;
     }
-    std::wstring key = ZelCommon::Text::ToLower(address);
-    const auto at = m_entries.lower_bound(key);
-    if (at != m_entries.end() && at->first == key) {
+    std::wstring key = ListKeyOf(address);
+    if (m_entries.Find(key) != nullptr) {
         return kAddExisted;
     }
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
     if (HoldsStar(key)) {
         m_wildcards.emplace(key, 0u);
     }
-    m_entries.emplace_hint(at, std::move(key), entry);
+    m_entries.Insert(KeyedEntry(std::move(key), entry));
     return kAddAdded;
 }
 
-// Load's Add, under the unique lock already held. Files are written in key order, so the
-// common case appends at the end of the map.
+// Load's Add, under the unique lock already held.
 template <class Kind>
-int CSenderListSet<Kind>::AddLoaded(SenderEntry&& entry) {
+int CSenderListSet<Kind>::AddLoaded(SenderEntry&& entry, std::string_view formattedLine) {
     TheLog().LogMessage(LogInfo, kLogSource, __LINE__, L"CBListSet::Add %s", entry.address);
     if (m_entries.size() >= kListLimit) {
         return kAddFull;
     }
-    std::wstring key = ZelCommon::Text::ToLower(entry.address);
-    auto at = m_entries.end();
-    if (!m_entries.empty() && !(std::prev(at)->first < key)) {
-        at = m_entries.lower_bound(key);
-        if (at != m_entries.end() && at->first == key) {
-            return kAddExisted;
-        }
+    KeyedEntry keyed(std::move(entry), formattedLine);
+    const bool wildcard = HoldsStar(keyed.Key());
+    std::wstring wildcardKey = wildcard ? std::wstring(keyed.Key()) : std::wstring();
+    if (!m_entries.Insert(std::move(keyed))) {
+        return kAddExisted;
     }
-    if (HoldsStar(key)) {
-        m_wildcards.emplace(key, 0u);
+    if (wildcard) {
+        m_wildcards.emplace(std::move(wildcardKey), 0u);
     }
-    m_entries.emplace_hint(at, std::move(key), std::move(entry));
     return kAddAdded;
 }
 
@@ -103,14 +95,13 @@ void CSenderListSet<Kind>::Remove(const wchar_t* address) {
     if (address == nullptr) {
         return;
     }
-    const std::wstring key = ZelCommon::Text::ToLower(address);
+    const std::wstring key = ListKeyOf(address);
     boost::upgrade_lock<boost::upgrade_mutex> upgradeable(m_lock);
-    const auto found = m_entries.find(key);
-    if (found == m_entries.end()) {
+    if (m_entries.Find(key) == nullptr) {
         return;
     }
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
-    m_entries.erase(found);
+    m_entries.Erase(key);
     m_wildcards.erase(key);
 }
 
@@ -120,43 +111,57 @@ bool CSenderListSet<Kind>::Modify(const wchar_t* oldAddress, const std::wstring&
     if (oldAddress == nullptr) {
         return false;
     }
-    const std::wstring oldKey = ZelCommon::Text::ToLower(oldAddress);
+    const std::wstring oldKey = ListKeyOf(oldAddress);
     boost::upgrade_lock<boost::upgrade_mutex> upgradeable(m_lock);
-    const auto found = m_entries.find(oldKey);
-    if (found == m_entries.end()) {
+    if (m_entries.Find(oldKey) == nullptr) {
         return false;
     }
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
-    found->second.name = newName;
-    std::wstring newKey = ZelCommon::Text::ToLower(newAddress);
-    if (newKey != oldKey) {
-        found->second.address = newKey;
-        // insert keeps an entry already stored under the new key: no merge, and the old key goes.
-        m_entries.insert({newKey, found->second});
-        m_entries.erase(found);
-        m_wildcards.erase(oldKey);
-        if (HoldsStar(newKey)) {
-            m_wildcards.emplace(std::move(newKey), 0u);
-        }
+    std::wstring newKey = ListKeyOf(newAddress);
+    if (newKey == oldKey) {
+        m_entries.SetName(oldKey, newName);
+        return true;
     }
+    m_entries.Erase(oldKey);
+    m_wildcards.erase(oldKey);
+    if (HoldsStar(newKey)) {
+        m_wildcards.emplace(newKey, 0u);
+    }
+    // The entry takes the lower-cased new address as its address. An entry already under the new
+    // key stays as it was: no merge, and the old key is gone.
+    m_entries.Insert(KeyedEntry(SenderEntry{newName, std::move(newKey)}));
     return true;
 }
 
 template <class Kind>
-void CSenderListSet<Kind>::Load(const std::wstring& path) {
+ListLoad CSenderListSet<Kind>::Load(const std::wstring& path) {
     boost::upgrade_lock<boost::upgrade_mutex> upgradeable(m_lock);
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
     m_entries.clear();
     m_wildcards.clear();
-    SenderListFile<Kind>::Read(path, [this](SenderEntry&& entry) { AddLoaded(std::move(entry)); });
+    const ListLoad load = SenderListFile<Kind>::Read(
+        path, m_fileText, [this](SenderEntry&& entry, std::string_view formattedLine) {
+            AddLoaded(std::move(entry), formattedLine);
+        });
+    m_refusedFile = MayWriteOver(load) ? std::wstring() : path;
+    return load;
 }
 
 template <class Kind>
 int CSenderListSet<Kind>::Save(const std::wstring& path) {
+    SaveTo(path);
+    return 1;
+}
+
+template <class Kind>
+ListSave CSenderListSet<Kind>::SaveTo(const std::wstring& path) {
     boost::upgrade_lock<boost::upgrade_mutex> upgradeable(m_lock);
     boost::upgrade_to_unique_lock<boost::upgrade_mutex> unique(upgradeable);
-    SenderListFile<Kind>::Write(path, SenderListFile<Kind>::Format(std::views::values(m_entries)));
-    return 1;
+    if (!m_refusedFile.empty() && path == m_refusedFile) {
+        return ListSave::KeptRefusedFile;
+    }
+    const ByteBuffer bytes = SenderListFile<Kind>::Format(m_entries);
+    return SenderListFile<Kind>::Write(path, bytes.View()) ? ListSave::Saved : ListSave::Unwritable;
 }
 
 template <class Kind>
@@ -170,8 +175,8 @@ std::vector<SenderEntry> CSenderListSet<Kind>::Entries() const {
     boost::shared_lock<boost::upgrade_mutex> shared(m_lock);
     std::vector<SenderEntry> entries;
     entries.reserve(m_entries.size());
-    for (const auto& [key, entry] : m_entries) {
-        entries.push_back(entry);
+    for (const KeyedEntry& entry : m_entries) {
+        entries.push_back(entry.Entry());
     }
     return entries;
 }

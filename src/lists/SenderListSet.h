@@ -8,16 +8,19 @@
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/shared_mutex.hpp>
 
+#include "lists/ListFileStatus.h"
 #include "lists/ListKinds.h"
 #include "lists/SenderEntry.h"
+#include "lists/SenderIndex.h"
 
 namespace Orva::Lists {
 
 // Results of Add.
 enum AddResult : int { kAddExisted = 0, kAddAdded = 1, kAddFull = 2 };
 
-// One sender list in memory, keyed by the lower-cased address, with an index of the keys that
-// hold "*". Finds share the lock; changes, load and save take it upgradeable, then unique.
+// One sender list in memory: the entries ordered by their key, the lower-cased address, and an
+// index of the keys that hold "*". Finds share the lock; changes, load and save take it
+// upgradeable, then unique.
 template <class Kind>
 class CSenderListSet {
 public:
@@ -37,10 +40,14 @@ public:
     bool Modify(const wchar_t* oldAddress, const std::wstring& newName,
                 const std::wstring& newAddress);
 
-    // Replaces the set with the file's entries; a missing or foreign file leaves it empty.
-    void Load(const std::wstring& path);
+    // Replaces the set with the file's entries; a file that is not Loaded leaves it empty.
+    ListLoad Load(const std::wstring& path);
     // Always 1: a file that cannot be written leaves the old one and is not reported.
     int Save(const std::wstring& path);
+    // Save, telling what happened. The file that the last Load refused (RejectedHeader,
+    // Unreadable) is never written over: it may be another program's, or a list this version
+    // cannot read.
+    ListSave SaveTo(const std::wstring& path);
 
     size_t Count() const;
     // The entries in key order.
@@ -49,11 +56,13 @@ public:
     std::vector<std::wstring> WildcardKeys() const;
 
 private:
-    int AddLoaded(SenderEntry&& entry);
+    int AddLoaded(SenderEntry&& entry, std::string_view formattedLine);
 
     mutable boost::upgrade_mutex m_lock;
-    std::map<std::wstring, SenderEntry> m_entries;
+    SenderIndex m_entries;
+    std::string m_fileText;  // the loaded file's text, which entries' formatted lines point into
     std::map<std::wstring, uint32_t> m_wildcards;
+    std::wstring m_refusedFile;
 };
 
 extern template class CSenderListSet<BlockedList>;

@@ -1,6 +1,7 @@
 #include "lists/SenderLists.h"
 
 #include "common_src/platform/Path.h"
+#include "lists/ListKinds.h"
 
 namespace Orva::Lists {
 
@@ -12,11 +13,8 @@ std::wstring BlockedListPath(const std::wstring& dataFolder) {
     return ZelCommon::Path::ChildFile(dataFolder, BlockedList::kFileName);
 }
 
-void ApplySenderLists(CWListSet& approved, CBListSet& blocked, const std::wstring& dataFolder,
-                      IListChangeNotifier& notifier) {
-    approved.Save(ApprovedListPath(dataFolder));
-    blocked.Save(BlockedListPath(dataFolder));
-    notifier.SenderListsChanged();
+SenderListPaths SenderListPathsIn(const std::wstring& dataFolder) {
+    return {ApprovedListPath(dataFolder), BlockedListPath(dataFolder)};
 }
 
 std::wstring EncodingsPath(const std::wstring& dataFolder) {

@@ -4,7 +4,6 @@
 
 #include "lists/EncodingSet.h"
 #include "lists/ListChangeNotifier.h"
-#include "lists/SenderListSet.h"
 
 namespace Orva::Lists {
 
@@ -12,9 +11,11 @@ namespace Orva::Lists {
 std::wstring ApprovedListPath(const std::wstring& dataFolder);
 std::wstring BlockedListPath(const std::wstring& dataFolder);
 
-// Saves both lists together, as the agent expects them to agree, then tells the agent.
-void ApplySenderLists(CWListSet& approved, CBListSet& blocked, const std::wstring& dataFolder,
-                      IListChangeNotifier& notifier);
+struct SenderListPaths {
+    std::wstring approved;
+    std::wstring blocked;
+};
+SenderListPaths SenderListPathsIn(const std::wstring& dataFolder);
 
 std::wstring EncodingsPath(const std::wstring& dataFolder);
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ListTestFiles.h"
+#include "common_src/platform/TextCodec.h"
 #include "lists/EncodingSet.h"
 
 namespace Orva::Lists {
@@ -45,14 +46,17 @@ TEST(CEncodingSet, Load_ReadsWhatSaveWrote) {
     EXPECT_EQ(saved.Groups(), loaded.Groups());
 }
 
-TEST(CEncodingSet, Load_MissingFileGivesEmptySet) {
+TEST(CEncodingSet, Load_MissingFileOrFolderGivesEmptySet) {
     Testing::TempFolder folder;
-    CEncodingSet set;
-    set.SetValue(4);
-    set.AddGroup(L"Thai", Group(true, {874}));
-    set.Load(folder.File(L"none.dat"));
-    EXPECT_EQ(0, set.Value());
-    EXPECT_TRUE(set.Groups().empty());
+    std::filesystem::create_directories(std::filesystem::path(folder.File(L"folder.dat")));
+    for (const wchar_t* name : {L"none.dat", L"folder.dat"}) {
+        CEncodingSet set;
+        set.SetValue(4);
+        set.AddGroup(L"Thai", Group(true, {874}));
+        set.Load(folder.File(name));
+        EXPECT_EQ(0, set.Value());
+        EXPECT_TRUE(set.Groups().empty());
+    }
 }
 
 TEST(CEncodingSet, Parse_AnyFirstLineStillLoadsFromLineThree) {
@@ -62,16 +66,21 @@ TEST(CEncodingSet, Parse_AnyFirstLineStillLoadsFromLineThree) {
     EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"Thai", Group(true, {874})}}), set.Groups());
 }
 
-TEST(CEncodingSet, Parse_CrLfAndMarkReadLikeLf) {
+TEST(CEncodingSet, Parse_CrLfAndMarksReadLikeLf) {
     Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlockEncodings.dat");
-    Testing::WriteFileBytes(path, std::string(kMark) + kHeader + "\r\n5\r\nThai\t1\t874\r\nA\t0\r\n");
-    CEncodingSet set;
-    set.Load(path);
-    EXPECT_EQ(5, set.Value());
-    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"A", Group(false, {})},
-                                                     {L"Thai", Group(true, {874})}}),
-              set.Groups());
+    const std::string text = std::string(kHeader) + "\r\n5\r\nThai\t1\t874\r\nA\t0\r\n";
+    for (const std::string& bytes :
+         {kMark + text,
+          "\xFF\xFE" + ZelCommon::Text::WideToUtf16Le(ZelCommon::Text::Utf8ToWide(text))}) {
+        Testing::WriteFileBytes(path, bytes);
+        CEncodingSet set;
+        set.Load(path);
+        EXPECT_EQ(5, set.Value());
+        EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"A", Group(false, {})},
+                                                         {L"Thai", Group(true, {874})}}),
+                  set.Groups());
+    }
 }
 
 TEST(CEncodingSet, Parse_RepeatedNameKeepsFirst) {

@@ -82,6 +82,7 @@ TEST(ListFuzz, ReadersSurviveRandomAndMutatedFiles) {
     Testing::TempFolder folder;
     const std::wstring input = folder.File(L"input.dat");
     const std::wstring output = folder.File(L"output.dat");
+    const std::wstring freshOutput = folder.File(L"fresh.dat");
     std::mt19937 random(12345);
     const auto deadline = std::chrono::steady_clock::now() + FuzzBudget();
     size_t runs = 0;
@@ -96,6 +97,14 @@ TEST(ListFuzz, ReadersSurviveRandomAndMutatedFiles) {
         CBListSet blockedAgain;
         blockedAgain.Load(output);
         ASSERT_EQ(blocked.Entries(), blockedAgain.Entries());
+        // A save copies the lines it loaded unchanged: it must write what formatting the same
+        // entries afresh writes.
+        CBListSet fresh;
+        for (const SenderEntry& entry : blocked.Entries()) {
+            fresh.Add(entry.address.c_str(), entry);
+        }
+        fresh.Save(freshOutput);
+        ASSERT_EQ(Testing::ReadFileBytes(freshOutput), Testing::ReadFileBytes(output));
 
         CWListSet approved;
         approved.Load(input);

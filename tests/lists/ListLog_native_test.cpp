@@ -41,5 +41,17 @@ TEST(ListLog, FindAndAdd_WriteTheirLinesUnderTheBlockedListsName) {
     EXPECT_EQ(1u, Occurrences(log, "@@@ CBListSet::Find bob@b.com, at: BlackList line: "));
 }
 
+TEST(ListLog, Save_LogsTheEntryItLeavesOut) {
+    Testing::TempFolder folder;
+    ZelCommon::Library::TheLog().OpenLog(folder.File(L"lists.log"));
+    ASSERT_TRUE(ZelCommon::Library::TheLog().IsLogOn());
+    CBListSet set;
+    set.Add(L"a\nb@c.com", {L"N", L"a\nb@c.com"});
+    set.Save(folder.File(L"BlackList.dat"));
+    EXPECT_EQ(1u, Occurrences(ReadWholeLogFolder(folder.Path()),
+                              "!!! xxx CBListSet::Save left out the entry of an address that "
+                              "cannot be written: ab@c.com, at: BlackList line: "));
+}
+
 }  // namespace
 }  // namespace Orva::Lists

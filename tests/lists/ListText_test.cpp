@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 
-#include "common_src/platform/TextCodec.h"
 #include "lists/ListText.h"
 
 namespace Orva::Lists {
@@ -59,66 +57,6 @@ TEST(IsStorableValue, RefusesWhatReadingWouldChange) {
     std::wstring surrogate = L"a";
     surrogate.push_back(static_cast<wchar_t>(0xDC00));
     EXPECT_FALSE(IsStorableValue(surrogate));
-}
-
-// The file writer's encoder must give the bytes of the shared converter for every valid text.
-TEST(AppendUtf8, EqualsTheSharedConverterOnRandomText) {
-    std::mt19937 random(99);
-    std::uniform_int_distribution<uint32_t> plane(0, 3);
-    for (int round = 0; round < 2000; ++round) {
-        std::wstring text;
-        for (int i = 0; i < 20; ++i) {
-            const uint32_t limits[] = {0x80, 0x800, 0xD7FF, 0x10FFFF};
-            uint32_t c = std::uniform_int_distribution<uint32_t>(1, limits[plane(random)])(random);
-            if (c >= 0xD800 && c <= 0xDFFF) {
-                c = 0xE000;
-            }
-            if (c >= 0x10000 && sizeof(wchar_t) == 2) {
-                c -= 0x10000;
-                text.push_back(static_cast<wchar_t>(0xD800 + (c >> 10)));
-                text.push_back(static_cast<wchar_t>(0xDC00 + (c & 0x3FF)));
-            } else {
-                text.push_back(static_cast<wchar_t>(c));
-            }
-        }
-        std::string appended = "x";
-        AppendUtf8(appended, text);
-        std::string expected = ZelCommon::Text::WideToUtf8(text);
-        expected.insert(expected.begin(), 'x');
-        ASSERT_EQ(expected, appended);
-        ASSERT_EQ(text, ZelCommon::Text::Utf8ToWide(appended.substr(1)));
-    }
-}
-
-// The save's one-pass check and encoding must agree with the check and the encoder apart.
-TEST(AppendStorableUtf8, AgreesWithIsStorableValueAndAppendUtf8) {
-    static const std::wstring kPieces[] = {L"a",      L" ",         L"\t",         L"\n",
-                                           L"<",      L"<SN_ATTR>", L"<\\BL_REC>", L"\u00e9",
-                                           L"\u4e2d", L"\u0001",    L"\u007f",     L"\uFFFD"};
-    std::mt19937 random(5);
-    std::uniform_int_distribution<size_t> piece(0, std::size(kPieces) - 1);
-    std::uniform_int_distribution<int> parts(0, 6);
-    size_t storable = 0;
-    for (int round = 0; round < 20000; ++round) {
-        std::wstring value;
-        for (int i = parts(random); i > 0; --i) {
-            value += kPieces[piece(random)];
-        }
-        if (round % 50 == 0) {
-            value.push_back(static_cast<wchar_t>(0xD800));
-        }
-        std::string appended = "x";
-        const bool stored = AppendStorableUtf8(appended, value);
-        ASSERT_EQ(IsStorableValue(value), stored) << testing::PrintToString(value);
-        if (stored) {
-            std::string expected = "x";
-            AppendUtf8(expected, value);
-            ASSERT_EQ(expected, appended);
-            ++storable;
-        }
-    }
-    EXPECT_GT(storable, 1000u);
-    EXPECT_LT(storable, 19000u);
 }
 
 }  // namespace

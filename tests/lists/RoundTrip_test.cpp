@@ -77,17 +77,39 @@ TEST(SenderListRoundTrip, ApprovedList_EveryValidatedEntryComesBackByteForByte) 
     ExpectEveryAddableEntryRoundTrips<CWListSet>(L"WhiteList.dat");
 }
 
-TEST(SenderListRoundTrip, Save_LeavesOutAnEntryThatWouldDamageTheFile) {
+struct SavedNameCase {
+    std::wstring name;
+    std::wstring reloaded;
+};
+
+// Names from contacts carry whatever their source held; the entry must survive the save.
+TEST(SenderListRoundTrip, Save_KeepsTheEntryAndCleansOnlyItsName) {
+    const std::wstring loneSurrogate(1, static_cast<wchar_t>(0xDC00));
+    const SavedNameCase cases[] = {
+        {L" \tAnn Lee\t ", L"Ann Lee"},
+        {L"Ann\r\nLee", L"AnnLee"},
+        {L"A\u0001nn\u007f", L"Ann\u007f"},
+        {L"Ann" + loneSurrogate + L" Lee", L"Ann Lee"},
+        {L"Ann<\\SN_ATTR>Lee", L"AnnLee"},
+        {L"<SN<SA_ATTR>_ATTR>x", L"x"},
+        {L"Ann <WL_REC>", L"Ann"},
+        {L"<\\BL_REC>\n", L""},
+        {L"a\tb <Ann> \u00e9", L"a\tb <Ann> \u00e9"},
+    };
     Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlackList.dat");
     CBListSet set;
-    set.Add(L"a@b.com", {L"line\nbreak", L"a@b.com"});
-    set.Add(L"c@d.com", {L"x<\\SN_ATTR>", L"c@d.com"});
-    set.Add(L"e@f.com", {L"fine", L"e@f.com"});
+    std::vector<SenderEntry> expected;
+    for (size_t i = 0; i < std::size(cases); ++i) {
+        const std::wstring address = L"n" + std::to_wstring(i) + L"@b.com";
+        set.Add(address.c_str(), {cases[i].name, address});
+        expected.push_back({cases[i].reloaded, address});
+    }
+    set.Add(L"a\nb@c.com", {L"Kept out", L"a\nb@c.com"});
     set.Save(path);
     CBListSet reloaded;
     reloaded.Load(path);
-    EXPECT_EQ((std::vector<SenderEntry>{{L"fine", L"e@f.com"}}), reloaded.Entries());
+    EXPECT_EQ(expected, reloaded.Entries());
 }
 
 }  // namespace

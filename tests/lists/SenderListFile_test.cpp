@@ -4,7 +4,7 @@
 #include <string>
 
 #include "ListTestFiles.h"
-#include "lists/SenderListFile.h"
+#include "common_src/platform/TextCodec.h"
 #include "lists/SenderListSet.h"
 
 namespace Orva::Lists {
@@ -77,16 +77,14 @@ TEST_F(SenderListFileTest, Save_UnwritableLocationReportsSuccessAndCreatesNothin
 
 // A name of 250 bytes leaves no room under the limit of 255 for the temporary name beside it, so
 // the save fails whoever runs it (root too). The old file stays exactly as it was.
-TEST_F(SenderListFileTest, Write_TemporaryFileCannotBeCreated_OldFileUnchangedAndFailureReported) {
+TEST_F(SenderListFileTest, Save_TemporaryFileCannotBeCreated_OldFileUnchangedAndFailureReported) {
     const std::wstring path = m_folder.File(std::wstring(246, L'b') + L".dat");
     const std::string old = std::string(kHeader) + "\n" + BlockedRecord("", "old@b.com") + "\n";
     WriteFileBytes(path, old);
     ASSERT_EQ(old, ReadFileBytes(path));
     CBListSet set;
     set.Add(L"new@b.com", {L"", L"new@b.com"});
-    EXPECT_FALSE(SenderListFile<BlockedList>::Write(
-        path, SenderListFile<BlockedList>::Format(set.Entries())));
-    EXPECT_EQ(1, set.Save(path));
+    EXPECT_EQ(ListSave::Unwritable, set.SaveTo(path));
     EXPECT_EQ(old, ReadFileBytes(path));
     EXPECT_EQ(1u, m_folder.FileCount());
 }
@@ -110,6 +108,47 @@ TEST_F(SenderListFileTest, Save_TargetThatCannotBeReplacedLeavesNoTemporaryFile)
     EXPECT_TRUE(std::filesystem::is_directory(std::filesystem::path(m_path)));
 }
 
+// A file that is not a list this version reads may be another program's, or a newer list.
+TEST_F(SenderListFileTest, Save_NeverWritesOverTheFileALoadRefused) {
+    const std::string foreign = "my notes\n" + BlockedRecord("", "a@b.com") + "\n";
+    WriteFileBytes(m_path, foreign);
+    CBListSet set;
+    set.Load(m_path);
+    set.Add(L"new@b.com", {L"", L"new@b.com"});
+    EXPECT_EQ(1, set.Save(m_path));
+    EXPECT_EQ(ListSave::KeptRefusedFile, set.SaveTo(m_path));
+    EXPECT_EQ(foreign, ReadFileBytes(m_path));
+    EXPECT_EQ(ListSave::Saved, set.SaveTo(m_folder.File(L"elsewhere.dat")));
+    // Once a load accepts the file, it may be written again.
+    WriteFileBytes(m_path, std::string(kHeader) + "\n");
+    EXPECT_EQ(ListLoad::Loaded, set.Load(m_path));
+    EXPECT_EQ(ListSave::Saved, set.SaveTo(m_path));
+}
+
+// A save copies the record lines it loaded unchanged; a line that reading changed in any way
+// must be formatted afresh.
+TEST_F(SenderListFileTest, Save_AfterLoad_WritesWhatFormattingTheEntriesWrites) {
+    WriteFileBytes(
+        m_path, std::string(kHeader) + "\r\n" + BlockedRecord("Ann \xC3\xA9", "ann@b.com") +
+                    "\r\n" + BlockedRecord(" Bob\t", "bob@b.com") + "\n" +
+                    BlockedRecord("Cy", " cy@b.com") + "\n" + BlockedRecord("", "**@d.com") + "\n" +
+                    BlockedRecord("E\xFF", "e@b.com") + "\n" + BlockedRecord("F\x01", "f@b.com") +
+                    "\n" + BlockedRecord("G", "G@B.com") + "\n" + BlockedRecord("Dup", "g@b.com") +
+                    "\n" + "x" + BlockedRecord("H", "h@b.com") + "\n" +
+                    BlockedRecord("I", "i@b.com"));
+    CBListSet loaded;
+    loaded.Load(m_path);
+    CBListSet fresh;
+    for (const SenderEntry& entry : loaded.Entries()) {
+        fresh.Add(entry.address.c_str(), entry);
+    }
+    const std::wstring freshPath = m_folder.File(L"fresh.dat");
+    fresh.Save(freshPath);
+    loaded.Save(m_path);
+    EXPECT_EQ(9u, loaded.Count());
+    EXPECT_EQ(ReadFileBytes(freshPath), ReadFileBytes(m_path));
+}
+
 TEST_F(SenderListFileTest, Load_ReadsWhatSaveWrote) {
     CBListSet saved;
     saved.Add(L"B@x.org", {L"Bee", L"B@x.org"});
@@ -130,11 +169,16 @@ TEST_F(SenderListFileTest, Load_ReplacesEarlierContent) {
     EXPECT_TRUE(set.WildcardKeys().empty());
 }
 
-TEST_F(SenderListFileTest, Load_MissingFileGivesEmptyList) {
-    CBListSet set;
-    set.Add(L"gone@b.com", {L"", L"gone@b.com"});
-    set.Load(m_folder.File(L"nothing.dat"));
-    EXPECT_EQ(0u, set.Count());
+TEST_F(SenderListFileTest, Load_MissingOrUnreadableFileGivesEmptyList) {
+    const std::wstring folder = m_folder.File(L"folder.dat");
+    std::filesystem::create_directories(std::filesystem::path(folder));
+    for (const auto& [path, load] : {std::pair(m_folder.File(L"nothing.dat"), ListLoad::Absent),
+                                     std::pair(folder, ListLoad::Unreadable)}) {
+        CBListSet set;
+        set.Add(L"gone@b.com", {L"", L"gone@b.com"});
+        EXPECT_EQ(load, set.Load(path));
+        EXPECT_EQ(0u, set.Count());
+    }
 }
 
 struct HeaderCase {
@@ -151,9 +195,10 @@ class SenderListHeaderTest : public SenderListFileTest,
                              public ::testing::WithParamInterface<HeaderCase> {};
 
 TEST_P(SenderListHeaderTest, Load_AcceptsOnlyTheFamilysHeaders) {
-    const auto entries =
-        LoadBlocked(GetParam().firstLine + "\n" + BlockedRecord("N", "a@b.com") + "\n");
-    EXPECT_EQ(GetParam().accepted ? 1u : 0u, entries.size());
+    WriteFileBytes(m_path, GetParam().firstLine + "\n" + BlockedRecord("N", "a@b.com") + "\n");
+    CBListSet set;
+    EXPECT_EQ(GetParam().accepted ? ListLoad::Loaded : ListLoad::RejectedHeader, set.Load(m_path));
+    EXPECT_EQ(GetParam().accepted ? 1u : 0u, set.Count());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -167,7 +212,8 @@ INSTANTIATE_TEST_SUITE_P(
         HeaderCase{"BlankFirstLine", "", false},
         HeaderCase{"OtherProduct", "; Written by Other v1.0 (c) 2005 Halvion", false},
         HeaderCase{"LowerCase", "; written by orva v3.5 (c) 2005 halvion", false},
-        HeaderCase{"Record", BlockedRecord("", "x@b.com"), false}),
+        HeaderCase{"Record", BlockedRecord("", "x@b.com"), false},
+        HeaderCase{"Utf16Mark", "\xFF\xFE", false}),
     [](const auto& test) { return std::string(test.param.label); });
 
 TEST_F(SenderListFileTest, Load_HeaderOnSecondLineRejectsWholeFile) {
@@ -186,17 +232,23 @@ TEST_F(SenderListFileTest, Load_OldHeaderLoadsAndSaveRewritesIt) {
               ReadFileBytes(m_path));
 }
 
-TEST_F(SenderListFileTest, Load_CrLfAndLfFilesReadTheSame) {
-    const std::string lf = std::string(kHeader) + "\n" + BlockedRecord("A  B", "a@b.com") + "\n" +
-                           BlockedRecord("C", "c@d.com") + "\n";
+// The runtime's UTF-8 text mode lets a file's mark decide: a UTF-16LE mark reads UTF-16.
+TEST_F(SenderListFileTest, Load_LineEndsAndMarksReadTheSame) {
+    const std::string lf = std::string(kHeader) + "\n" + BlockedRecord("J\xC3\xBCrgen", "a@b.com") +
+                           "\n" + BlockedRecord("C", "c@d.com") + "\n";
     std::string crlf;
     for (const char c : lf) {
         crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
     }
+    const auto utf16 = [](const std::string& utf8) {
+        return "\xFF\xFE" + ZelCommon::Text::WideToUtf16Le(ZelCommon::Text::Utf8ToWide(utf8));
+    };
     const auto fromLf = LoadBlocked(lf);
-    EXPECT_EQ(2u, fromLf.size());
+    EXPECT_EQ((std::vector<SenderEntry>{{L"J\u00fcrgen", L"a@b.com"}, {L"C", L"c@d.com"}}), fromLf);
     EXPECT_EQ(fromLf, LoadBlocked(crlf));
     EXPECT_EQ(fromLf, LoadBlocked(std::string(kMark) + crlf));
+    EXPECT_EQ(fromLf, LoadBlocked(utf16(crlf)));
+    EXPECT_EQ(fromLf, LoadBlocked(utf16(lf) + "\x01"));
 }
 
 TEST_F(SenderListFileTest, Load_LastLineWithoutLineEndCounts) {

@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
-#include "common_src/platform/Path.h"
 #include "common_src/platform/TextCodec.h"
 #include "support/FileBytes.h"
 #include "support/TempFolder.h"
+#include "support/fakes/platform/FakeWindowMessaging.h"
 #include "tools/orvactl/ListsCommand.h"
 #include "tools/orvactl/Orvactl.h"
 #include "tools/orvactl/TextSink.h"
@@ -38,14 +37,16 @@ protected:
     int Run(std::vector<std::wstring> args) {
         m_out = StringSink();
         m_err = StringSink();
-        return RunListsCommand(args, m_out, m_err);
+        return RunListsCommand(args, m_out, m_err, m_windows);
     }
 
     Testing::TempFolder m_folder;
     std::wstring m_white = File(L"WhiteList.dat");
     std::wstring m_black = File(L"BlackList.dat");
+    std::wstring m_text = File(L"in.txt");
     StringSink m_out;
     StringSink m_err;
+    ZelCommon::Fakes::FakeWindowMessaging m_windows;
 };
 
 TEST_F(ListsCommandTest, Show_PrintsAlignedTableInKeyOrder) {
@@ -71,59 +72,103 @@ TEST_F(ListsCommandTest, Show_UnknownFileNameIsAUsageError) {
     EXPECT_NE(std::wstring::npos, m_err.Text().find(L"WhiteList.dat"));
 }
 
-TEST_F(ListsCommandTest, Show_MissingOrForeignFileFails) {
-    EXPECT_EQ(kExitFailure, Run({L"show", m_white}));
-    Write(m_white, "not a list\n");
-    EXPECT_EQ(kExitFailure, Run({L"show", m_white}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"not a sender list file"));
-}
+struct OutcomeCase {
+    const char* label;
+    std::string white;  // the files before the command; empty for none
+    std::string black;
+    std::string text;
+    std::vector<std::wstring> args;  // FILE and TEXTFILE as "W", "B" and "T"
+    int exitCode;
+    std::wstring out;
+    std::wstring errPart;
+};
 
-TEST_F(ListsCommandTest, Add_CreatesTheFileAndStoresTheCheckedAddress) {
-    EXPECT_EQ(kExitOk, Run({L"add", m_black, L"  **@Spam.com ", L" Spammer "}));
-    EXPECT_EQ(L"added *@Spam.com\n", m_out.Text());
-    EXPECT_EQ(ListBytes("BL_REC", {{"Spammer", "*@Spam.com"}}), Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Add_RefusedAddressWritesNothing) {
-    EXPECT_EQ(kExitFailure, Run({L"add", m_black, L"a*b*@c.com"}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"not an e-mail address"));
-    EXPECT_EQ("<missing>", Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Add_AddressOfTheOtherListIsReportedNotMoved) {
+// What each outcome prints, and that a command that fails leaves the files as they were.
+TEST_F(ListsCommandTest, Outcomes_PrintTheirTextAndExitCode) {
     const std::string white = ListBytes("WL_REC", {{"", "friend@b.com"}});
-    Write(m_white, white);
-    EXPECT_EQ(kExitFailure, Run({L"add", m_black, L"FRIEND@b.com"}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"is in WhiteList.dat"));
-    EXPECT_EQ(white, Read(m_white));
-    EXPECT_EQ("<missing>", Read(m_black));
+    const std::string black = ListBytes("BL_REC", {{"", "old@b.com"}, {"S", "*@s.com"}});
+    const std::string utf16 =
+        "\xFF\xFE" + ZelCommon::Text::WideToUtf16Le(L"a@b.com\r\nc@d.com\r\n");
+    const std::vector<std::wstring> importText{L"import", L"B", L"--from", L"T"};
+    // clang-format off
+    const OutcomeCase cases[] = {
+        {"Added", "", "", "", {L"add", L"B", L" **@Spam.com ", L" Spammer "}, kExitOk,
+         L"added *@Spam.com\n", L""},
+        {"AddRefused", white, black, "", {L"add", L"B", L"a*b*@c.com"}, kExitFailure, L"",
+         L"refused a*b*@c.com: not an e-mail address"},
+        {"AddInOtherList", white, black, "", {L"add", L"B", L"FRIEND@b.com"}, kExitFailure, L"",
+         L"FRIEND@b.com is in WhiteList.dat; remove it there first"},
+        {"AddExisting", white, black, "", {L"add", L"B", L"OLD@b.com"}, kExitFailure, L"",
+         L"OLD@b.com is already in "},
+        {"AddToForeignFile", white, "my notes\n", "", {L"add", L"B", L"a@b.com"}, kExitFailure, L"",
+         L"BlackList.dat: not a sender list file"},
+        {"AddBesideForeignFile", "my notes\n", black, "", {L"add", L"B", L"a@b.com"}, kExitFailure,
+         L"", L"WhiteList.dat: not a sender list file"},
+        {"Removed", white, black, "", {L"remove", L"B", L" ***@S.com"}, kExitOk,
+         L"removed *@S.com\n", L""},
+        {"RemoveAbsent", white, black, "", {L"remove", L"B", L"x@b.com"}, kExitFailure, L"",
+         L"x@b.com is not in "},
+        {"RemoveFromMissingFile", "", "", "", {L"remove", L"B", L"x@b.com"}, kExitFailure, L"",
+         L"BlackList.dat: cannot be read"},
+        {"Imported", white, black, "new@b.com\nOLD@b.com\n\n*@spam.biz\n", importText, kExitOk,
+         L"imported 2, already present 1, refused 0\n", L""},
+        {"ImportRefused", white, black, "good@b.com\nnot an address\nFriend@b.com\n", importText,
+         kExitFailure, L"", L"line 2: refused not an address: not an e-mail address\n"
+                            L"line 3: Friend@b.com is in WhiteList.dat\n"},
+        {"ImportBadCsvLine", white, black, "a@b.com,x,y\n",
+         {L"import", L"B", L"--csv", L"--from", L"T"}, kExitFailure, L"",
+         L"line 1: refused: not an address,name line\norvactl: 1 line(s) refused; nothing "
+         L"imported (--skip-refused imports the rest)"},
+        {"ImportSkipRefused", white, black, "good@b.com\nnot an address\n",
+         {L"import", L"B", L"--from", L"T", L"--skip-refused"}, kExitOk,
+         L"imported 1, already present 0, refused 1\n", L"line 2: refused"},
+        {"ImportFromUtf16Text", white, black, utf16, importText, kExitOk,
+         L"imported 2, already present 0, refused 0\n", L""},
+        {"ImportFromMissingText", white, black, "", importText, kExitFailure, L"",
+         L"in.txt: cannot be read"},
+        {"ExportCsv", white, ListBytes("BL_REC", {{"Lee, Ann \"A\"", "a@b.com"}}), "",
+         {L"export", L"B", L"--csv"}, kExitOk, L"a@b.com,\"Lee, Ann \"\"A\"\"\"\n", L""},
+    };
+    // clang-format on
+    for (const OutcomeCase& test : cases) {
+        for (const auto& [path, bytes] :
+             {std::pair(m_white, test.white), std::pair(m_black, test.black),
+              std::pair(m_text, test.text)}) {
+            std::filesystem::remove(std::filesystem::path(path));
+            if (!bytes.empty()) {
+                Write(path, bytes);
+            }
+        }
+        std::vector<std::wstring> args = test.args;
+        for (std::wstring& arg : args) {
+            arg = arg == L"W" ? m_white : arg == L"B" ? m_black : arg == L"T" ? m_text : arg;
+        }
+        EXPECT_EQ(test.exitCode, Run(args)) << test.label;
+        EXPECT_EQ(test.out, m_out.Text()) << test.label;
+        EXPECT_NE(std::wstring::npos, m_err.Text().find(test.errPart))
+            << test.label << ": " << testing::PrintToString(m_err.Text());
+        if (test.exitCode != kExitOk) {
+            EXPECT_EQ(test.white.empty() ? "<missing>" : test.white, Read(m_white)) << test.label;
+            EXPECT_EQ(test.black.empty() ? "<missing>" : test.black, Read(m_black)) << test.label;
+        }
+    }
 }
 
-TEST_F(ListsCommandTest, Add_ExistingAddressFailsAndKeepsTheFile) {
-    const std::string black = ListBytes("BL_REC", {{"Old", "a@b.com"}});
-    Write(m_black, black);
-    EXPECT_EQ(kExitFailure, Run({L"add", m_black, L"A@B.com", L"New"}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"already in"));
-    EXPECT_EQ(black, Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Add_ForeignFileIsNotOverwritten) {
-    Write(m_black, "my notes\n");
+TEST_F(ListsCommandTest, AgentWindow_IsToldAfterEachWriteOnly) {
+    const auto agent = m_windows.AddWindow(L"{56639265-C81B-440d-B5CD-3A7ED4F42777}");
+    unsigned told = 0;
+    m_windows.SetHandler(agent, [&told](const ZelCommon::Fakes::FakeWindowMessaging::Message& m) {
+        told += m.message == 1033 ? 1 : 100;
+        return intptr_t{0};
+    });
+    Write(m_text, "c@d.com\n");
+    EXPECT_EQ(kExitOk, Run({L"add", m_black, L"a@b.com"}));
     EXPECT_EQ(kExitFailure, Run({L"add", m_black, L"a@b.com"}));
-    EXPECT_EQ("my notes\n", Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Remove_TakesTheAddressOutWhateverItsCase) {
-    Write(m_white, ListBytes("WL_REC", {{"A", "a@b.com"}, {"C", "c@d.com"}}));
-    EXPECT_EQ(kExitOk, Run({L"remove", m_white, L"A@B.COM"}));
-    EXPECT_EQ(ListBytes("WL_REC", {{"C", "c@d.com"}}), Read(m_white));
-}
-
-TEST_F(ListsCommandTest, Remove_AbsentAddressFails) {
-    const std::string white = ListBytes("WL_REC", {{"A", "a@b.com"}});
-    Write(m_white, white);
-    EXPECT_EQ(kExitFailure, Run({L"remove", m_white, L"x@b.com"}));
-    EXPECT_EQ(white, Read(m_white));
+    EXPECT_EQ(kExitOk, Run({L"import", m_black, L"--from", m_text}));
+    EXPECT_EQ(kExitOk, Run({L"remove", m_black, L"a@b.com"}));
+    EXPECT_EQ(kExitOk, Run({L"show", m_black}));
+    EXPECT_EQ(kExitOk, Run({L"export", m_black}));
+    EXPECT_EQ(3u, told);
 }
 
 TEST_F(ListsCommandTest, Validate_ReportsEachArgument) {
@@ -137,111 +182,6 @@ TEST_F(ListsCommandTest, Validate_ReportsEachArgument) {
     EXPECT_EQ(kExitUsage, Run({L"validate"}));
 }
 
-TEST_F(ListsCommandTest, Export_OneAddressALineOrCsv) {
-    Write(m_white, ListBytes("WL_REC", {{"Lee, Ann \"A\"", "a@b.com"}, {"", "c@d.com"}}));
-    EXPECT_EQ(kExitOk, Run({L"export", m_white}));
-    EXPECT_EQ(L"a@b.com\nc@d.com\n", m_out.Text());
-    EXPECT_EQ(kExitOk, Run({L"export", m_white, L"--csv"}));
-    EXPECT_EQ(L"a@b.com,\"Lee, Ann \"\"A\"\"\"\nc@d.com,\n", m_out.Text());
-}
-
-TEST_F(ListsCommandTest, ExportThenImport_CsvCarriesNamesOver) {
-    Write(m_white,
-          ListBytes("WL_REC", {{"Lee, Ann \"A\"", "a@b.com"}, {"\xC3\xA9t\xC3\xA9", "c@d.com"}}));
-    ASSERT_EQ(kExitOk, Run({L"export", m_white, L"--csv"}));
-    const std::wstring text = File(L"export.csv");
-    Write(text, ZelCommon::Text::WideToUtf8(m_out.Text()));
-    const std::wstring otherFolder = File(L"peer");
-    std::filesystem::create_directories(std::filesystem::path(otherFolder));
-    const std::wstring target = ZelCommon::Path::ChildFile(otherFolder, L"WhiteList.dat");
-    EXPECT_EQ(kExitOk, Run({L"import", target, L"--from", text, L"--csv"}));
-    EXPECT_EQ(Read(m_white), Read(target));
-}
-
-TEST_F(ListsCommandTest, Import_AddsValidAddressesAndCountsPresentOnes) {
-    Write(m_black, ListBytes("BL_REC", {{"", "old@b.com"}}));
-    const std::wstring text = File(L"in.txt");
-    Write(text, "\xEF\xBB\xBFnew@b.com\r\n\r\nOLD@b.com\n  *@spam.biz  \nnew@b.com");
-    EXPECT_EQ(kExitOk, Run({L"import", m_black, L"--from", text}));
-    EXPECT_EQ(L"imported 2, already present 2, refused 0\n", m_out.Text());
-    EXPECT_EQ(ListBytes("BL_REC", {{"", "*@spam.biz"}, {"", "new@b.com"}, {"", "old@b.com"}}),
-              Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Import_ReadsUtf16TextWithMark) {
-    const std::wstring text = File(L"in.txt");
-    Write(text, "\xFF\xFE" + ZelCommon::Text::WideToUtf16Le(L"a@b.com\r\nc@d.com\r\n"));
-    EXPECT_EQ(kExitOk, Run({L"import", m_white, L"--from", text}));
-    EXPECT_EQ(ListBytes("WL_REC", {{"", "a@b.com"}, {"", "c@d.com"}}), Read(m_white));
-}
-
-TEST_F(ListsCommandTest, Import_RefusedLinesAreReportedByNumberAndNothingIsWritten) {
-    const std::string black = ListBytes("BL_REC", {{"", "old@b.com"}});
-    Write(m_black, black);
-    const std::wstring text = File(L"in.txt");
-    Write(text, "good@b.com\nnot an address\n\nx*y*@b.com\n");
-    EXPECT_EQ(kExitFailure, Run({L"import", m_black, L"--from", text}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"line 2: refused not an address"));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"line 4: refused x*y*@b.com"));
-    EXPECT_EQ(black, Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Import_SkipRefusedImportsTheRest) {
-    const std::wstring text = File(L"in.txt");
-    Write(text, "good@b.com\nnot an address\n");
-    EXPECT_EQ(kExitOk, Run({L"import", m_black, L"--from", text, L"--skip-refused"}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"line 2: refused"));
-    EXPECT_EQ(L"imported 1, already present 0, refused 1\n", m_out.Text());
-    EXPECT_EQ(ListBytes("BL_REC", {{"", "good@b.com"}}), Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Import_ConflictsWithTheOtherListAreReportedNotResolved) {
-    const std::string white = ListBytes("WL_REC", {{"", "friend@b.com"}});
-    Write(m_white, white);
-    const std::wstring text = File(L"in.txt");
-    Write(text, "spam@b.com\nFriend@b.com\n");
-    EXPECT_EQ(kExitFailure, Run({L"import", m_black, L"--from", text}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"line 2: Friend@b.com is in WhiteList.dat"));
-    EXPECT_EQ(white, Read(m_white));
-    EXPECT_EQ("<missing>", Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Import_BeyondTheLimitFailsAndWritesNothing) {
-    std::string existing;
-    std::vector<std::pair<std::string, std::string>> entries;
-    for (int i = 0; i < 7999; ++i) {
-        // Appending step by step sidesteps GCC 12's false -Wrestrict on "u" + to_string(i).
-        std::string address = std::to_string(i);
-        address.insert(0, 1, 'u');
-        address += "@b.com";
-        entries.emplace_back("", std::move(address));
-    }
-    const std::string black = ListBytes("BL_REC", entries);
-    Write(m_black, black);
-    const std::wstring text = File(L"in.txt");
-    Write(text, "n1@b.com\nn2@b.com\nn3@b.com\n");
-    EXPECT_EQ(kExitFailure, Run({L"import", m_black, L"--from", text, L"--skip-refused"}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"2 address(es) do not fit"));
-    EXPECT_EQ(black, Read(m_black));
-}
-
-TEST_F(ListsCommandTest, Import_CsvTakesNamesAndSkipsAHeading) {
-    const std::wstring text = File(L"in.csv");
-    Write(text, "Address,Name\n\"a@b.com\",\"Lee, Ann\"\nc@d.com\ne@f.com,x,y\n\"open,\n");
-    EXPECT_EQ(kExitFailure, Run({L"import", m_white, L"--from", text, L"--csv"}));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"line 4: refused: not an address,name line"));
-    EXPECT_NE(std::wstring::npos, m_err.Text().find(L"line 5: refused: not an address,name line"));
-    EXPECT_EQ(kExitOk, Run({L"import", m_white, L"--csv", L"--skip-refused", L"--from", text}));
-    EXPECT_EQ(ListBytes("WL_REC", {{"Lee, Ann", "a@b.com"}, {"", "c@d.com"}}), Read(m_white));
-}
-
-TEST_F(ListsCommandTest, Import_MissingTextFileOrOptionFails) {
-    EXPECT_EQ(kExitFailure, Run({L"import", m_white, L"--from", File(L"none.txt")}));
-    EXPECT_EQ(kExitUsage, Run({L"import", m_white}));
-    EXPECT_EQ(kExitUsage, Run({L"import", m_white, L"--from"}));
-    EXPECT_EQ("<missing>", Read(m_white));
-}
-
 TEST_F(ListsCommandTest, BadArguments_AreUsageErrors) {
     EXPECT_EQ(kExitUsage, Run({}));
     EXPECT_EQ(kExitUsage, Run({L"frobnicate"}));
@@ -250,7 +190,10 @@ TEST_F(ListsCommandTest, BadArguments_AreUsageErrors) {
     EXPECT_EQ(kExitUsage, Run({L"add", m_white}));
     EXPECT_EQ(kExitUsage, Run({L"remove", m_white}));
     EXPECT_EQ(kExitUsage, Run({L"export", m_white, L"--tsv"}));
+    EXPECT_EQ(kExitUsage, Run({L"import", m_white}));
+    EXPECT_EQ(kExitUsage, Run({L"import", m_white, L"--from"}));
     EXPECT_NE(std::wstring::npos, m_err.Text().find(L"orvactl --help"));
+    EXPECT_EQ("<missing>", Read(m_white));
 }
 
 TEST(ListsHelpText, NamesEverySubCommand) {
