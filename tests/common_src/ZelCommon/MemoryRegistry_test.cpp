@@ -59,19 +59,6 @@ TEST(MemoryRegistry, EnumKey_FoldsLatin1Letters) {
     registry.CloseKey(key);
 }
 
-TEST(MemoryRegistry, Handles_AreCountedUntilClosed) {
-    MemoryRegistry registry;
-    RegHandle first = 0;
-    RegHandle second = 0;
-    ASSERT_EQ(registry.CreateKey(kHkcu, L"a", RegAccess::QueryValue, nullptr, &first), 0);
-    ASSERT_EQ(registry.OpenKey(kHkcu, L"a", RegAccess::QueryValue, &second), 0);
-    EXPECT_NE(first, second);
-    EXPECT_EQ(registry.OpenHandleCount(), 2u);
-    registry.CloseKey(first);
-    registry.CloseKey(second);
-    EXPECT_EQ(registry.OpenHandleCount(), 0u);
-}
-
 TEST(MemoryRegistry, Roots_AreSeparateTrees) {
     MemoryRegistry registry;
     RegHandle key = 0;
