@@ -56,10 +56,7 @@ inline LRESULT CALLBACK RecordingProcedure(HWND window, UINT message, WPARAM wPa
 // the relay of the system's window messaging in front of it.
 class HostEventRig {
 public:
-    // Without the controller, the window is there under another class.
-    explicit HostEventRig(bool withController = true)
-        : controller(withController ? Plugin::kControllerClassName.data() : L"OrvaNotTheController",
-                     L"", RecordingProcedure) {
+    HostEventRig() : controller(Plugin::kControllerClassName.data(), L"", RecordingProcedure) {
         ReceivedMessages().clear();
         log.OpenLog(folder.File(L"host.log"));
     }

@@ -202,14 +202,6 @@ TEST(HostEventSinks, DropDownEntries_PostTheirIndexForEitherClickEvent) {
     }
 }
 
-TEST(HostEventSinks, NoControllerWindow_NothingIsPosted) {
-    HostEventRig rig(false);
-    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
-    EXPECT_EQ(FireEvent(*sink.Get(), kToolbarClicked, {Int32Arg(1), Int32Arg(2)}), S_OK);
-    EXPECT_EQ(FireEvent(*sink.Get(), kFolderChanged, {Int64Arg(3)}), S_OK);
-    EXPECT_THAT(rig.Messages(), IsEmpty());
-}
-
 TEST(HostEventSinks, GetIDsOfNames_AnswersDeclaredNamesInAnyCase) {
     HostEventRig rig;
     const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);

@@ -83,7 +83,6 @@ protected:
 };
 
 const std::string kHead = "1234:000b 2024/01/31 09:05:07:042 ";
-const std::wstring kWideHead = L"1234:000b 2024/01/31 09:05:07:042 ";
 
 TEST_F(DebugLogTest, NeverOpened_WritesNothingAnywhere) {
     m_log.WriteLine(L"line\n");
@@ -101,100 +100,86 @@ TEST_F(DebugLogTest, OpenLog_CreatesTodaysDatedFile) {
     EXPECT_EQ(Files(), std::vector<fs::path>{"ORVAAgent.20240131.log"});
 }
 
-TEST_F(DebugLogTest, WriteLine_HeadThenTextExactly) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.WriteLine(L"hello\n");
-    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
-    m_process.SetProcessId(0xFFFFFFFF);
-    m_process.SetThreadId(0x10000);
-    m_log.WriteLine(L"second\n");
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + "hello\nffff:0000 2024/01/31 23:59:59:999 second\n"));
-    EXPECT_EQ(m_debugger.Texts(),
-              (std::vector<std::wstring>{kWideHead + L"hello\n",
-                                         L"ffff:0000 2024/01/31 23:59:59:999 second\n"}));
-}
+using Writes = std::function<void(DebugLog&, FakeClock&, FakeProcessContext&)>;
 
-TEST_F(DebugLogTest, WriteLine_NoByteOrderMarkAndAnsiBytes) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.WriteLine(L"caf\u00E9\n");
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + ZelCommon::Text::WideToAnsi(L"caf\u00E9") + "\n"));
-}
-
-// A line of 500 characters or more with its head keeps 495 and ends with "...n", without a
-// line break, in the file and for the debugger alike.
-TEST_F(DebugLogTest, LongLines_AreCutAtFiveHundredCharacters) {
+// Every line is "pid:tid date time " and the text, in the file (ANSI, no byte-order mark) and
+// for the debugger alike. A line of 500 characters or more with its head keeps 495 and ends with
+// "...n", without a line break.
+TEST(DebugLog, Lines_AreHeadAndTextInTheFileAndForTheDebugger) {
+    const auto write = [](std::wstring text) {
+        return [text](DebugLog& log, FakeClock&, FakeProcessContext&) { log.WriteLine(text); };
+    };
     const struct {
         const char* name;
-        std::function<void(DebugLog&)> write;
+        Writes writes;
         std::string written;
     } cases[] = {
-        {"499 characters", [](DebugLog& log) { log.WriteLine(std::wstring(464, L'a') + L"\n"); },
-         OnDisk(kHead + std::string(464, 'a') + "\n")},
-        {"500 characters", [](DebugLog& log) { log.WriteLine(std::wstring(465, L'a') + L"\n"); },
+        {"head then text",
+         [](DebugLog& log, FakeClock& clock, FakeProcessContext& process) {
+             log.WriteLine(L"hello\n");
+             clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
+             process.SetProcessId(0xFFFFFFFF);
+             process.SetThreadId(0x10000);
+             log.WriteLine(L"second\n");
+         },
+         kHead + "hello\nffff:0000 2024/01/31 23:59:59:999 second\n"},
+        {"ANSI", write(L"caf\u00E9\n"), kHead + ZelCommon::Text::WideToAnsi(L"caf\u00E9") + "\n"},
+        {"499 characters", write(std::wstring(464, L'a') + L"\n"),
+         kHead + std::string(464, 'a') + "\n"},
+        {"500 characters", write(std::wstring(465, L'a') + L"\n"),
          kHead + std::string(495 - kHead.size(), 'a') + "...n"},
         {"a formatted message of 5000",
-         [](DebugLog& log) { log.LogMessage(2, "x.cpp", 1, L"%s", std::wstring(5000, L'z')); },
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             log.LogMessage(2, "x.cpp", 1, L"%s", std::wstring(5000, L'z'));
+         },
          kHead + "@@@ " + std::string(495 - kHead.size() - 4, 'z') + "...n"},
+        {"level prefixes and source file names",
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             log.LogMessage(0, "C:\\work\\src\\settings\\SettingsStore.cpp", 120, L"value %d", 0);
+             log.LogMessage(1, "C:\\work\\src\\settings\\SettingsStore.cpp", 120, L"value %d", 1);
+             log.LogMessage(2, "/work/main/src/plugin/ToolBarWnd.cpp", 120, L"value %d", 2);
+             log.LogMessage(7, "SettingsStore.cpp", 120, L"value %d", 7);
+             log.LogMessage(-1, "SettingsStore.cpp", 120, L"value %d", -1);
+         },
+         kHead + "!!! value 0, at: SettingsStore.cpp line: 120\n" + kHead +
+             "### value 1, at: SettingsStore.cpp line: 120\n" + kHead +
+             "@@@ value 2, at: ToolBarWnd.cpp line: 120\n" + kHead +
+             "??? value 7, at: SettingsStore.cpp line: 120\n" + kHead +
+             "??? value -1, at: SettingsStore.cpp line: 120\n"},
+        {"LogText adds a line break only when missing",
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             log.LogText(L"@@@ %s  IN", L"CToolBarWnd::OnBuildUI");
+             log.LogText(L"######the nPos = %d!\n", 3);
+             log.LogText(L"");
+         },
+         kHead + "@@@ CToolBarWnd::OnBuildUI  IN\n" + kHead + "######the nPos = 3!\n" + kHead +
+             "\n"},
+        {"scope tracer",
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             ScopeTracer tracer(L"CToolBarWnd::OnCreate", "src\\plugin\\ToolBarWnd.cpp", 88, log);
+             log.WriteLine(L"body\n");
+         },
+         kHead + " ==> [CToolBarWnd::OnCreate] in, at: ToolBarWnd.cpp line: 88\n" + kHead +
+             "body\n" + kHead + " <== [CToolBarWnd::OnCreate] out, at: ToolBarWnd.cpp line: 88\n"},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
         TempFolder folder;
+        FakeClock clock(FakeClock::At(2024, 1, 31, 9, 5, 7, 42));
+        FakeProcessContext process;
+        process.SetProcessId(0x51234);
+        process.SetThreadId(0xA000B);
         FakeDebuggerOutput debugger;
-        DebugLog log{m_clock, m_process, debugger};
+        DebugLog log{clock, process, debugger};
         log.OpenLog((folder.Root() / "ORVAAgent.log").wstring());
-        each.write(log);
-        EXPECT_EQ(ReadFileBytes(folder.Root() / "ORVAAgent.20240131.log"), each.written);
-        ASSERT_EQ(debugger.Texts().size(), 1u);
-        std::string shown = OnDisk(ZelCommon::Text::WideToUtf8(debugger.Texts()[0]));
-        EXPECT_EQ(shown, each.written);
+        each.writes(log, clock, process);
+        EXPECT_EQ(ReadFileBytes(folder.Root() / "ORVAAgent.20240131.log"), OnDisk(each.written));
+        std::wstring shown;
+        for (const std::wstring& text : debugger.Texts()) {
+            shown += text;
+        }
+        EXPECT_EQ(OnDisk(ZelCommon::Text::WideToAnsi(shown)), OnDisk(each.written));
     }
-}
-
-TEST_F(DebugLogTest, LogMessage_PrefixByLevelAndSourceFileName) {
-    const struct {
-        int level;
-        const char* file;
-        const char* line;
-    } rows[] = {
-        {0, "C:\\work\\src\\settings\\SettingsStore.cpp",
-         "!!! value 0, at: SettingsStore.cpp line: 120"},
-        {1, "C:\\work\\src\\settings\\SettingsStore.cpp",
-         "### value 1, at: SettingsStore.cpp line: 120"},
-        {2, "/work/main/src/plugin/ToolBarWnd.cpp", "@@@ value 2, at: ToolBarWnd.cpp line: 120"},
-        {7, "SettingsStore.cpp", "??? value 7, at: SettingsStore.cpp line: 120"},
-        {-1, "SettingsStore.cpp", "??? value -1, at: SettingsStore.cpp line: 120"},
-    };
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    std::string expected;
-    for (const auto& row : rows) {
-        m_log.LogMessage(row.level, row.file, 120, L"value %d", row.level);
-        expected += kHead + row.line + "\n";
-    }
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), OnDisk(expected));
-}
-
-TEST_F(DebugLogTest, LogText_AddsLineBreakOnlyWhenMissing) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.LogText(L"@@@ %s  IN", L"CToolBarWnd::OnBuildUI");
-    m_log.LogText(L"######the nPos = %d!\n", 3);
-    m_log.LogText(L"");
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + "@@@ CToolBarWnd::OnBuildUI  IN\n" + kHead + "######the nPos = 3!\n" +
-                     kHead + "\n"));
-}
-
-TEST_F(DebugLogTest, ScopeTracer_WritesInAndOutLines) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    {
-        ScopeTracer tracer(L"CToolBarWnd::OnCreate", "src\\plugin\\ToolBarWnd.cpp", 88, m_log);
-        m_log.WriteLine(L"body\n");
-    }
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + " ==> [CToolBarWnd::OnCreate] in, at: ToolBarWnd.cpp line: 88\n" +
-                     kHead + "body\n" + kHead +
-                     " <== [CToolBarWnd::OnCreate] out, at: ToolBarWnd.cpp line: 88\n"));
 }
 
 // Checks whether this process still holds the file open.
