@@ -54,7 +54,6 @@ public:
     void FailPosts(Platform::WindowHandle window, unsigned count);
 
     std::vector<Message> Messages() const;
-    std::vector<Message> MessagesTo(Platform::WindowHandle window) const;
     void ClearMessages();
     unsigned LookupCount() const;
     // Also writes each post and send into `journal` as "post|send <title, else class, else
