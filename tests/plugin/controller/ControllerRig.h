@@ -141,15 +141,6 @@ struct ControllerRig {
     }
 
     std::vector<std::wstring> Journal() const { return journal.Entries(); }
-    std::vector<std::wstring> LogLines() const {
-        std::vector<std::wstring> lines;
-        for (const std::wstring& entry : journal.Entries()) {
-            if (entry.starts_with(L"log ")) {
-                lines.push_back(entry.substr(4));
-            }
-        }
-        return lines;
-    }
 
     TempFolder folder;
     ZelCommon::Fakes::FakeJournal journal;
