@@ -233,37 +233,5 @@ TEST(HostEventSinks, LastRelease_DeletesTheSink) {
     EXPECT_EQ(CDispatchSink::LiveSinks(), before);
 }
 
-// Type information of an event interface that numbers two of the events its own way.
-ComPtr<ITypeInfo> RenumberedApiEvents() {
-    static wchar_t toolbar[] = L"OnToolbarButtonClicked";
-    static wchar_t folder[] = L"OnFolderSelectionChanged";
-    static PARAMDATA toolbarParams[] = {{nullptr, VT_I4}, {nullptr, VT_I4}};
-    static PARAMDATA folderParams[] = {{nullptr, VT_I8}};
-    static METHODDATA methods[] = {
-        {toolbar, toolbarParams, 31, 0, CC_STDCALL, 2, DISPATCH_METHOD, VT_EMPTY},
-        {folder, folderParams, 33, 1, CC_STDCALL, 1, DISPATCH_METHOD, VT_EMPTY},
-    };
-    static INTERFACEDATA events = {methods, 2};
-    ComPtr<ITypeInfo> info;
-    ::CreateDispTypeInfo(&events, LOCALE_SYSTEM_DEFAULT, &info);
-    return info;
-}
-
-TEST(HostEventSinks, HostTypeInformation_ReplacesTheAssumedDispIds) {
-    HostEventRig rig;
-    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
-    const ComPtr<ITypeInfo> info = RenumberedApiEvents();
-    ASSERT_NE(info, nullptr);
-    sink->ResolveDispIds(*info.Get());
-
-    EXPECT_EQ(FireEvent(*sink.Get(), kFolderChanged, {Int64Arg(5)}), S_OK);
-    EXPECT_EQ(FireEvent(*sink.Get(), 33, {Int64Arg(6)}), S_OK);
-    EXPECT_EQ(FireEvent(*sink.Get(), 31, {Int32Arg(1), Int32Arg(2)}), S_OK);
-    EXPECT_THAT(rig.Messages(), ElementsAre(ControllerMessageRecord{1076, 0, 6},
-                                            ControllerMessageRecord{4031, 1, 2}));
-    // Events the host does not name keep their assumed numbers.
-    EXPECT_EQ(sink->DispIdOf(1), 2);
-}
-
 }  // namespace
 }  // namespace Orva::Plugin
