@@ -137,7 +137,7 @@ TEST(HostEventSinks, WrongArguments_AreRefusedWithOneLineAndNoMessage) {
         EXPECT_EQ(FireEvent(*sink.Get(), each.id, each.args, &slot), each.expected);
         EXPECT_EQ(slot, each.slot);
         EXPECT_THAT(rig.Messages(), IsEmpty());
-        EXPECT_THAT(rig.output.lines, ElementsAre(each.line));
+        EXPECT_THAT(rig.journal.Entries(), ElementsAre(L"log " + std::wstring(each.line)));
     }
     ::SysFreeString(V_BSTR(&text));
 }
