@@ -309,6 +309,7 @@ TEST_F(RegistryStore, CharArrayOverloads_ActAsTheMainForms) {
     EXPECT_EQ(base.GetString(name, L""), L"v");
     base.DeleteValue(name);
     EXPECT_EQ(ThrownCode([&] { base.GetString(name, L""); }), 2u);
+    EXPECT_EQ(ThrownCode([&] { base.DeleteValue(name); }), 2u);
 }
 
 }  // namespace

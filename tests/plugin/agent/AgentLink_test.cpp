@@ -97,6 +97,7 @@ TEST(AgentLink, Messages_ReachTheAgentAsPostsOrSends) {
         {1053, AgentDelivery::Posted, false}, {1069, AgentDelivery::Posted, false},
         {1077, AgentDelivery::Posted, false}, {4027, AgentDelivery::Posted, false},
     };
+    EXPECT_FALSE(IsButtonCommand(1040)) << "lies between the commands but is none";
     for (const auto& each : cases) {
         SCOPED_TRACE(each.message);
         EXPECT_EQ(IsButtonCommand(each.message), each.command);
