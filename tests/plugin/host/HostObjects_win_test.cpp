@@ -85,15 +85,21 @@ struct HostObjectsRig {
     std::unique_ptr<IHostObjects> host;
 };
 
-TEST(HostObjects, InitObject_IsCreatedByProgIdAndRelaysTheReadyEvent) {
+// Unadvising lets go of the sink; the object itself stays until it is released.
+TEST(HostObjects, InitObject_IsCreatedByProgIdRelaysTheReadyEventAndIsReleasedLast) {
     HostObjectsRig rig;
     ASSERT_TRUE(rig.host->CreateInitObject());
     ASSERT_TRUE(rig.host->AdviseInitSink());
 
     EXPECT_EQ(rig.object.Fire(1, {}), S_OK);
     EXPECT_THAT(rig.progIds, ElementsAre(L"NktWLMailApiInit.WLMailApiInit"));
-    EXPECT_THAT(rig.object.calls, ElementsAre(L"advise"));
     EXPECT_THAT(rig.events.Messages(), ElementsAre(ControllerMessageRecord{4029, 0, 0}));
+
+    rig.host->UnadviseInitSink();
+    EXPECT_THAT(rig.object.calls, ElementsAre(L"advise", L"unadvise 42"));
+    EXPECT_GT(rig.object.references, 0u);
+    rig.host->ReleaseInitObject();
+    EXPECT_EQ(rig.object.references, 0u);
 }
 
 TEST(HostObjects, ApiObject_RelaysFolderSelectionAndIsReleasedWithItsSink) {
@@ -113,16 +119,6 @@ TEST(HostObjects, ApiObject_RelaysFolderSelectionAndIsReleasedWithItsSink) {
     EXPECT_FALSE(rig.host->HasApiObject());
     EXPECT_EQ(rig.object.references, 0u);
     EXPECT_EQ(CDispatchSink::LiveSinks(), liveBefore);
-}
-
-TEST(HostObjects, UnadviseInitSink_KeepsTheObjectUntilReleased) {
-    HostObjectsRig rig;
-    ASSERT_TRUE(rig.host->CreateInitObject());
-    ASSERT_TRUE(rig.host->AdviseInitSink());
-    rig.host->UnadviseInitSink();
-    EXPECT_GT(rig.object.references, 0u);
-    rig.host->ReleaseInitObject();
-    EXPECT_EQ(rig.object.references, 0u);
 }
 
 TEST(HostObjects, NoHostObject_NothingIsCreatedOrAdvised) {
