@@ -9,8 +9,8 @@
 #include <tuple>
 #include <vector>
 
-#include "support/fakes/platform/FakeJournal.h"
 #include "common_src/platform/WindowMessaging.h"
+#include "support/fakes/platform/FakeJournal.h"
 
 namespace ZelCommon::Fakes {
 
