@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "common_src/platform/Path.h"
 #include "common_src/platform/AtomicFile.h"
+#include "common_src/platform/Path.h"
 #include "lists/ByteBuffer.h"
 #include "lists/ListFileStatus.h"
 #include "lists/ListFileText.h"

@@ -104,7 +104,9 @@ protected:
     std::unique_ptr<CORVA_WLMAApp> app;
 };
 
-TEST_F(ApplicationTest, InitInstance_LaunchesTheAgentLoadsTheMuiThenCreatesTheController) {
+// Agent, language module, controller, then the settings; a second call starts nothing again.
+TEST_F(ApplicationTest, InitInstance_StartsEachPartOnceInItsOrder) {
+    App().InitInstance();
     App().InitInstance();
 
     ASSERT_EQ(controller.openCalls, 1);
@@ -116,11 +118,6 @@ TEST_F(ApplicationTest, InitInstance_LaunchesTheAgentLoadsTheMuiThenCreatesTheCo
     EXPECT_EQ(controller.debuggerBeforeOpen,
               std::vector<std::wstring>{L"Failed to get mui resource folder path!!"});
     EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.dataRoot));
-}
-
-TEST_F(ApplicationTest, InitInstance_StartsTheSettingsAfterTheController) {
-    App().InitInstance();
-
     EXPECT_FALSE(controller.userFileBeforeOpen);
     EXPECT_EQ(StartCount(), 1);
     EXPECT_TRUE(ZelCommon::Path::FileExists(paths.versionFile));
@@ -136,15 +133,6 @@ TEST_F(ApplicationTest, DebugOne_AFailedAgentLaunchReachesTheLog) {
     EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [](const std::wstring& line) {
         return line.find(L"Failed to create ORVA_WLM.exe") != std::wstring::npos;
     }));
-}
-
-TEST_F(ApplicationTest, InitInstance_RunsOnce) {
-    App().InitInstance();
-    App().InitInstance();
-
-    EXPECT_EQ(controller.openCalls, 1);
-    EXPECT_EQ(launcher.Launches().size(), 1u);
-    EXPECT_EQ(StartCount(), 1);
 }
 
 TEST_F(ApplicationTest, NoControllerWindow_StartUpStillFinishes) {

@@ -9,53 +9,60 @@ namespace {
 
 using Testing::SettingsTestFiles;
 
-TEST(Presets, Rules_AreAppliedInTheDeploymentOrder) {
-    const SettingId expected[] = {
+PresetResult ResultOf(const std::vector<PresetResult>& results, SettingId userKey) {
+    for (const PresetResult& result : results) {
+        if (result.rule.userKey == userKey) {
+            return result;
+        }
+    }
+    ADD_FAILURE() << "no preset result";
+    return {};
+}
+
+// Each preset goes from the installation file to the same section and key of the user's file,
+// with its marker beside it, in the deployment's order.
+TEST(Presets, EveryPreset_IsCopiedWithItsMarkerInTheDeploymentOrder) {
+    const SettingId order[] = {
         SettingId::AUServer,        SettingId::EnableSchedule,     SettingId::Interval,
         SettingId::UpdateUI,        SettingId::ProtectLevel,       SettingId::EnableInTheCloud,
         SettingId::AutoApprove,     SettingId::NotifyIcon,         SettingId::AutoMoved,
         SettingId::PurgeDays,       SettingId::DeleteDeleted,      SettingId::ReportSpamAddress,
         SettingId::ReportFPAddress, SettingId::ReportPhishAddress,
     };
-    const auto rules = PresetRules();
-    ASSERT_EQ(rules.size(), std::size(expected));
-    for (size_t i = 0; i < rules.size(); ++i) {
-        EXPECT_EQ(rules[i].userKey, expected[i]) << i;
-        const SettingEntry& install = Entry(rules[i].installKey);
-        const SettingEntry& user = Entry(rules[i].userKey);
-        const SettingEntry& marker = Entry(rules[i].marker);
-        EXPECT_EQ(install.file, SettingsFile::Install);
-        EXPECT_EQ(user.file, SettingsFile::User);
-        EXPECT_EQ(install.section, user.section);
-        EXPECT_EQ(install.key, user.key);
-        EXPECT_EQ(marker.section, user.section);
-        EXPECT_EQ(marker.type, ValueType::Integer);
-        EXPECT_EQ(marker.defaultNumber, 0);
+    SettingsTestFiles t;
+    for (const PresetRule& rule : PresetRules()) {
+        t.SetInstall(rule.installKey, L"v" + std::to_wstring(static_cast<int>(rule.installKey)));
+    }
+    const auto results = ApplyPresets(t.store);
+    ASSERT_EQ(results.size(), std::size(order));
+    for (size_t i = 0; i < results.size(); ++i) {
+        const PresetRule& rule = results[i].rule;
+        SCOPED_TRACE(i);
+        EXPECT_EQ(rule.userKey, order[i]);
+        EXPECT_EQ(results[i].outcome, PresetOutcome::Applied);
+        EXPECT_EQ(Entry(rule.installKey).file, SettingsFile::Install);
+        EXPECT_EQ(Entry(rule.installKey).section, Entry(rule.userKey).section);
+        EXPECT_EQ(Entry(rule.installKey).key, Entry(rule.userKey).key);
+        EXPECT_EQ(Entry(rule.marker).section, Entry(rule.userKey).section);
+        EXPECT_EQ(t.UserRaw(rule.userKey),
+                  L"v" + std::to_wstring(static_cast<int>(rule.installKey)));
+        EXPECT_EQ(t.UserRaw(rule.marker), L"1");
     }
 }
 
-TEST(Presets, ProtectLevelPreset_ReachesAFreshUserOnceAndNeverOverwritesTheirChoice) {
+// Neither the user's later choice nor a changed preset is overwritten once the preset arrived.
+TEST(Presets, AppliedPreset_ReachesTheUserOnlyOnce) {
     SettingsTestFiles t;
     t.SetInstall(SettingId::InstallProtectLevel, L"3");
-
     ApplyPresets(t.store);
     EXPECT_EQ(t.UserRaw(SettingId::ProtectLevel), L"3");
-    EXPECT_EQ(t.UserRaw(SettingId::SettedPLevel), L"1");
 
     ASSERT_TRUE(t.store.SetInt(SettingId::ProtectLevel, 1));
+    t.SetInstall(SettingId::InstallProtectLevel, L"2");
     const auto results = ApplyPresets(t.store);
-    EXPECT_EQ(t.UserRaw(SettingId::ProtectLevel), L"1");
-    EXPECT_EQ(results[4].rule.userKey, SettingId::ProtectLevel);
-    EXPECT_EQ(results[4].outcome, PresetOutcome::AlreadyApplied);
-}
 
-TEST(Presets, ChangedPresetAfterwards_IsIgnoredForUsersWhoHadIt) {
-    SettingsTestFiles t;
-    t.SetInstall(SettingId::InstallPurgeDays, L"30");
-    ApplyPresets(t.store);
-    t.SetInstall(SettingId::InstallPurgeDays, L"45");
-    ApplyPresets(t.store);
-    EXPECT_EQ(t.UserRaw(SettingId::PurgeDays), L"30");
+    EXPECT_EQ(t.UserRaw(SettingId::ProtectLevel), L"1");
+    EXPECT_EQ(ResultOf(results, SettingId::ProtectLevel).outcome, PresetOutcome::AlreadyApplied);
 }
 
 TEST(Presets, EmptyInstallFile_AppliesOnlyTheInstallDefaultsOfNotifyIconAndCloud) {
@@ -112,8 +119,9 @@ TEST(Presets, NonZeroMarker_OfAnyValueBlocksThePreset) {
     t.SetInstall(SettingId::InstallAUServer, L"http://updates.corp.example/");
     t.SetUserRaw(SettingId::SettedAUUrl, L"7");
     const auto results = ApplyPresets(t.store);
-    EXPECT_EQ(results[0].outcome, PresetOutcome::AlreadyApplied);
-    EXPECT_EQ(results[0].installValue, L"http://updates.corp.example/");
+    const PresetResult result = ResultOf(results, SettingId::AUServer);
+    EXPECT_EQ(result.outcome, PresetOutcome::AlreadyApplied);
+    EXPECT_EQ(result.installValue, L"http://updates.corp.example/");
     EXPECT_EQ(t.UserRaw(SettingId::AUServer), L"<missing>");
 }
 
@@ -123,19 +131,6 @@ TEST(Presets, BlankOnlyInstallValue_IsTrimmedToEmptyAndSkipped) {
     ApplyPresets(t.store);
     EXPECT_EQ(t.UserRaw(SettingId::Interval), L"<missing>");
     EXPECT_EQ(t.UserRaw(SettingId::SettedSecUpdateInterval), L"<missing>");
-}
-
-TEST(Presets, EveryPreset_IsCopiedWithItsMarker) {
-    SettingsTestFiles t;
-    for (const PresetRule& rule : PresetRules()) {
-        t.SetInstall(rule.installKey, L"v" + std::to_wstring(static_cast<int>(rule.installKey)));
-    }
-    ApplyPresets(t.store);
-    for (const PresetRule& rule : PresetRules()) {
-        EXPECT_EQ(t.UserRaw(rule.userKey),
-                  L"v" + std::to_wstring(static_cast<int>(rule.installKey)));
-        EXPECT_EQ(t.UserRaw(rule.marker), L"1");
-    }
 }
 
 }  // namespace

@@ -34,10 +34,10 @@ protected:
                                        (addinFolder + L"ORVA_WLM.ini").c_str());
     }
     // As the add-in starts: folders, the debug-log switch, then the settings start.
-    StartedSettings Start(bool windows64 = false) {
+    StartedSettings Start() {
         paths = ComputeSettingsPaths(process, registry);
         CreateSettingsFolders(paths);
-        store = std::make_unique<SettingsStore>(SystemProfileApi(), FilesOf(paths, windows64));
+        store = std::make_unique<SettingsStore>(SystemProfileApi(), FilesOf(paths, false));
         logSwitchedOn = SwitchOnDebugLog(*store, paths.logFolder, log);
         return StartAddinSettings(*store, paths, L"3.1.0.7", log);
     }
@@ -54,30 +54,25 @@ protected:
     bool logSwitchedOn = false;
 };
 
-TEST_F(SettingsStartupTest, FirstStart_CreatesTheUserFolderAndWritesEveryStartSetting) {
+// The first start applies the presets and writes the start record and the version file; the
+// next counts again and keeps what the user chose meanwhile.
+TEST_F(SettingsStartupTest, Starts_WriteEveryStartSettingAndKeepTheUsersChoice) {
     SetInstall(SettingId::InstallProtectLevel, L"3");
 
-    const StartedSettings started = Start();
+    const StartedSettings first = Start();
 
     EXPECT_FALSE(logSwitchedOn);
     EXPECT_FALSE(log.IsLogOn());
-    EXPECT_EQ(started.startCount, 1);
+    EXPECT_EQ(first.startCount, 1);
     const SettingsStore reread(SystemProfileApi(), store->Files());
     EXPECT_EQ(reread.GetString(SettingId::ProtectLevel), L"3");
     EXPECT_EQ(reread.GetInt(SettingId::SettedPLevel), 1);
     EXPECT_EQ(reread.GetString(SettingId::ORVAWLMVer), L"3.1.0.7");
     EXPECT_EQ(reread.GetString(SettingId::VersionDeployVersion), L"3.1.0.7");
     EXPECT_EQ(reread.GetString(SettingId::VersionPname), L"orva");
-}
 
-TEST_F(SettingsStartupTest, SecondStart_CountsAgainAndKeepsTheUsersChoice) {
-    SetInstall(SettingId::InstallProtectLevel, L"3");
-    Start();
     store->SetInt(SettingId::ProtectLevel, 1);
-
-    const StartedSettings second = Start();
-
-    EXPECT_EQ(second.startCount, 2);
+    EXPECT_EQ(Start().startCount, 2);
     EXPECT_EQ(store->GetString(SettingId::ProtectLevel), L"1");
 }
 
@@ -94,13 +89,6 @@ TEST_F(SettingsStartupTest, DebugOne_LogsThePresetsItApplies) {
         sawPreset = sawPreset || line.find(L"[General] PurgeDays=9 applied") != std::wstring::npos;
     }
     EXPECT_TRUE(sawPreset);
-}
-
-TEST_F(SettingsStartupTest, Windows64_PutsTheIdentificationInTheOrvaOe64Section) {
-    Start(true);
-    EXPECT_EQ(ZelCommon::Storage::ReadProfileString(SystemProfileApi(), paths.versionFile,
-                                                    L"ORVA_OE64", L"class", L"<missing>"),
-              L"WLMA");
 }
 
 }  // namespace

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "SettingsTestFiles.h"
+#include "common_src/platform/TextCodec.h"
 
 namespace Orva::Settings {
 namespace {
@@ -11,40 +14,43 @@ using Testing::SettingsTestFiles;
 
 TEST(SettingsStore, MissingFiles_GiveTheCatalogueDefaults) {
     SettingsTestFiles t;
-    EXPECT_EQ(t.store.GetString(SettingId::PurgeDays), L"20");
-    EXPECT_EQ(t.store.GetString(SettingId::EnableProxy), L"no");
-    EXPECT_EQ(t.store.GetString(SettingId::AgentLog), L"ORVAAgent.log");
-    EXPECT_EQ(t.store.GetInt(SettingId::Interval), 180);
-    EXPECT_EQ(t.store.GetInt(SettingId::HTTPPort), 80);
-    EXPECT_EQ(t.store.GetInt(SettingId::EnableWexor), 2);
-    EXPECT_EQ(t.store.GetInt(SettingId::EnableInTheCloud), 1);
-    EXPECT_EQ(t.store.GetStored(SettingId::PurgeDays), std::nullopt);
+    for (const SettingEntry& entry : SettingsCatalogue()) {
+        SCOPED_TRACE(ZelCommon::Text::WideToUtf8(entry.key));
+        EXPECT_EQ(t.store.GetString(entry.id), entry.defaultText);
+        if (entry.type != ValueType::String) {
+            EXPECT_EQ(t.store.GetInt(entry.id), entry.defaultNumber);
+        }
+        EXPECT_EQ(t.store.GetStored(entry.id), std::nullopt);
+    }
 }
 
-TEST(SettingsStore, SetInt_WritesDecimalText) {
-    SettingsTestFiles t;
-    ASSERT_TRUE(t.store.SetInt(SettingId::HTTPPort, 8080));
-    ASSERT_TRUE(t.store.SetInt(SettingId::LastUpdateTime, -5));
-    EXPECT_EQ(t.UserRaw(SettingId::HTTPPort), L"8080");
-    EXPECT_EQ(t.UserRaw(SettingId::LastUpdateTime), L"-5");
-    EXPECT_EQ(t.store.GetInt(SettingId::HTTPPort), 8080);
-    EXPECT_EQ(t.store.GetInt(SettingId::LastUpdateTime), -5);
-}
-
-TEST(SettingsStore, SetFlag_WritesOneAndZero) {
-    SettingsTestFiles t;
-    ASSERT_TRUE(t.store.SetFlag(SettingId::AutoMoved, true));
-    EXPECT_EQ(t.UserRaw(SettingId::AutoMoved), L"1");
-    ASSERT_TRUE(t.store.SetFlag(SettingId::AutoMoved, false));
-    EXPECT_EQ(t.UserRaw(SettingId::AutoMoved), L"0");
-}
-
-TEST(SettingsStore, SetFlagOnProxySwitch_WritesYesAndNo) {
-    SettingsTestFiles t;
-    ASSERT_TRUE(t.store.SetFlag(SettingId::EnableProxy, true));
-    EXPECT_EQ(t.UserRaw(SettingId::EnableProxy), L"yes");
-    ASSERT_TRUE(t.store.SetFlag(SettingId::EnableProxy, false));
-    EXPECT_EQ(t.UserRaw(SettingId::EnableProxy), L"no");
+TEST(SettingsStore, Writes_AreDecimalTextAndFlagsAsTheirFormSays) {
+    const struct {
+        const char* name;
+        std::function<bool(SettingsStore&)> write;
+        SettingId id;
+        const wchar_t* stored;
+    } cases[] = {
+        {"number", [](SettingsStore& s) { return s.SetInt(SettingId::HTTPPort, 8080); },
+         SettingId::HTTPPort, L"8080"},
+        {"negative", [](SettingsStore& s) { return s.SetInt(SettingId::LastUpdateTime, -5); },
+         SettingId::LastUpdateTime, L"-5"},
+        {"flag on", [](SettingsStore& s) { return s.SetFlag(SettingId::AutoMoved, true); },
+         SettingId::AutoMoved, L"1"},
+        {"flag off", [](SettingsStore& s) { return s.SetFlag(SettingId::AutoMoved, false); },
+         SettingId::AutoMoved, L"0"},
+        {"proxy on", [](SettingsStore& s) { return s.SetFlag(SettingId::EnableProxy, true); },
+         SettingId::EnableProxy, L"yes"},
+        {"proxy off", [](SettingsStore& s) { return s.SetFlag(SettingId::EnableProxy, false); },
+         SettingId::EnableProxy, L"no"},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        SettingsTestFiles t;
+        ASSERT_TRUE(each.write(t.store));
+        EXPECT_EQ(t.UserRaw(each.id), each.stored);
+        EXPECT_EQ(t.store.GetString(each.id), each.stored);
+    }
 }
 
 TEST(SettingsStore, InstallFileEntries_AreNeverWritten) {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "SettingsTestFiles.h"
-#include "common_src/platform/Path.h"
 #include "common_src/ZelCommon/ProfileLists.h"
+#include "common_src/platform/Path.h"
 
 namespace Orva::Settings {
 namespace {
@@ -14,27 +14,27 @@ std::wstring Read(const std::wstring& file, const wchar_t* section, const wchar_
                                                  section, key, L"<missing>");
 }
 
-TEST(VersionFile, Windows64_WritesTheIdentificationToOrvaOe64) {
-    Testing::SettingsTestFiles t(true);
-    ASSERT_TRUE(WriteVersionFile(t.store, L"1.2.3.4"));
-    const std::wstring& file = t.files.versionFile;
-    EXPECT_EQ(Read(file, L"ORVA_OE64", L"pname"), L"orva");
-    EXPECT_EQ(Read(file, L"ORVA_OE64", L"class"), L"WLMA");
-    EXPECT_EQ(Read(file, L"ORVA_OE64", L"type"), L"addin");
-    EXPECT_EQ(Read(file, L"ORVA_OE", L"pname"), L"<missing>");
-    EXPECT_EQ(Read(file, L"ORVA_OE", L"DeployVersion"), L"1.2.3.4");
-}
-
-TEST(VersionFile, Windows32_WritesEverythingToOrvaOe) {
-    Testing::SettingsTestFiles t(false);
-    ASSERT_TRUE(WriteVersionFile(t.store, L"1.2.3.4"));
-    const std::wstring& file = t.files.versionFile;
-    EXPECT_EQ(Read(file, L"ORVA_OE", L"pname"), L"orva");
-    EXPECT_EQ(Read(file, L"ORVA_OE", L"class"), L"WLMA");
-    EXPECT_EQ(Read(file, L"ORVA_OE", L"type"), L"addin");
-    EXPECT_EQ(Read(file, L"ORVA_OE", L"DeployVersion"), L"1.2.3.4");
-    EXPECT_EQ(ZelCommon::Storage::ReadSectionNames(ZelCommon::Storage::SystemProfileApi(), file),
-              std::vector<std::wstring>{L"ORVA_OE"});
+// The identification goes to ORVA_OE64 on 64-bit Windows; the deployed version always to ORVA_OE.
+TEST(VersionFile, Write_PutsTheIdentificationInTheMachinesSection) {
+    for (const bool windows64 : {true, false}) {
+        SCOPED_TRACE(windows64);
+        Testing::SettingsTestFiles t(windows64);
+        ASSERT_TRUE(WriteVersionFile(t.store, L"1.2.3.4"));
+        const std::wstring& file = t.files.versionFile;
+        const wchar_t* section = windows64 ? L"ORVA_OE64" : L"ORVA_OE";
+        EXPECT_EQ(Read(file, section, L"pname"), L"orva");
+        EXPECT_EQ(Read(file, section, L"class"), L"WLMA");
+        EXPECT_EQ(Read(file, section, L"type"), L"addin");
+        EXPECT_EQ(Read(file, L"ORVA_OE", L"DeployVersion"), L"1.2.3.4");
+        // Nothing else is written anywhere.
+        EXPECT_EQ(ZelCommon::Storage::ReadSectionNames(ZelCommon::Storage::SystemProfileApi(), file)
+                      .size(),
+                  windows64 ? 2u : 1u);
+        EXPECT_EQ(ZelCommon::Storage::ReadKeyNames(ZelCommon::Storage::SystemProfileApi(), file,
+                                                   L"ORVA_OE")
+                      .size(),
+                  windows64 ? 1u : 4u);
+    }
 }
 
 TEST(VersionFile, MissingSharedFolder_IsCreated) {

@@ -39,4 +39,14 @@ std::wstring ScratchFolder::File(const std::wstring& name) const {
     return Path::ChildFile(Path(), name);
 }
 
+std::size_t ScratchFolder::FileCount() const {
+    std::error_code error;
+    std::size_t count = 0;
+    for (auto it = std::filesystem::directory_iterator(m_root, error);
+         it != std::filesystem::directory_iterator(); ++it) {
+        ++count;
+    }
+    return count;
+}
+
 }  // namespace ZelCommon::Fakes

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -12,7 +13,7 @@ namespace ZelCommon::Fakes {
 class ScratchFolder {
 public:
     // `prefix` names the folder's owner, for whoever finds one left behind by a crash.
-    explicit ScratchFolder(std::string_view prefix = "orva-scratch");
+    explicit ScratchFolder(std::string_view prefix = "orva-test");
     ~ScratchFolder();
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
@@ -22,6 +23,8 @@ public:
     std::wstring Folder(const std::wstring& name) const;
     std::wstring File(const std::wstring& name) const;
     const std::filesystem::path& Root() const { return m_root; }
+    // How many files and folders it holds.
+    std::size_t FileCount() const;
 
 private:
     std::filesystem::path m_root;

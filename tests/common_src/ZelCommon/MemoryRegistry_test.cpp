@@ -1,5 +1,6 @@
 // What the in-memory registry does like Windows where Wine does not, so that only it can show.
 #include "common_src/ZelCommon/MemoryRegistry.h"
+#include "common_src/ZelCommon/RegistryContractSteps.h"
 
 #include <gtest/gtest.h>
 
@@ -13,21 +14,6 @@ namespace {
 
 const RegHandle kHkcu = RootHandle(RegRoot::CurrentUser);
 
-std::vector<std::wstring> Names(MemoryRegistry& registry, RegHandle key, bool values) {
-    std::vector<std::wstring> names;
-    for (uint32_t index = 0;; ++index) {
-        wchar_t name[260];
-        uint32_t length = 260;
-        const int32_t status = values ? registry.EnumValue(key, index, name, &length)
-                                      : registry.EnumKey(key, index, name, &length);
-        if (status != RegStatus::Success) {
-            EXPECT_EQ(status, RegStatus::NoMoreItems);
-            return names;
-        }
-        names.emplace_back(name, length);
-    }
-}
-
 TEST(MemoryRegistry, EnumValue_ListsValuesInTheOrderFirstSet) {
     MemoryRegistry registry;
     const uint8_t one[] = {1};
@@ -36,7 +22,8 @@ TEST(MemoryRegistry, EnumValue_ListsValuesInTheOrderFirstSet) {
     }
     ASSERT_EQ(registry.DeleteValue(kHkcu, L"zeta"), 0);
     ASSERT_EQ(registry.SetValue(kHkcu, L"zeta", RegType::Binary, one, 1), 0);
-    EXPECT_EQ(Names(registry, kHkcu, true), (std::vector<std::wstring>{L"Alpha", L"mid", L"zeta"}));
+    EXPECT_EQ(Testing::ValueNames(registry, kHkcu),
+              (std::vector<std::wstring>{L"Alpha", L"mid", L"zeta"}));
 }
 
 TEST(MemoryRegistry, EnumKey_SortsByUpperCasedName) {
@@ -46,7 +33,7 @@ TEST(MemoryRegistry, EnumKey_SortsByUpperCasedName) {
         ASSERT_EQ(registry.CreateKey(kHkcu, name, RegAccess::QueryValue, nullptr, &key), 0);
         registry.CloseKey(key);
     }
-    EXPECT_EQ(Names(registry, kHkcu, false),
+    EXPECT_EQ(Testing::KeyNames(registry, kHkcu),
               (std::vector<std::wstring>{L"A", L"b", L"[x", L"_u", L"`q"}));
 }
 
@@ -57,19 +44,6 @@ TEST(MemoryRegistry, EnumKey_FoldsLatin1Letters) {
     registry.CloseKey(key);
     EXPECT_EQ(registry.OpenKey(kHkcu, L"GRÜßE", RegAccess::QueryValue, &key), 0);
     registry.CloseKey(key);
-}
-
-TEST(MemoryRegistry, Handles_AreCountedUntilClosed) {
-    MemoryRegistry registry;
-    RegHandle first = 0;
-    RegHandle second = 0;
-    ASSERT_EQ(registry.CreateKey(kHkcu, L"a", RegAccess::QueryValue, nullptr, &first), 0);
-    ASSERT_EQ(registry.OpenKey(kHkcu, L"a", RegAccess::QueryValue, &second), 0);
-    EXPECT_NE(first, second);
-    EXPECT_EQ(registry.OpenHandleCount(), 2u);
-    registry.CloseKey(first);
-    registry.CloseKey(second);
-    EXPECT_EQ(registry.OpenHandleCount(), 0u);
 }
 
 TEST(MemoryRegistry, Roots_AreSeparateTrees) {
@@ -104,8 +78,10 @@ TEST(MemoryRegistry, ConcurrentWriters_LoseNoValue) {
     for (std::thread& thread : threads) {
         thread.join();
     }
-    EXPECT_EQ(Names(registry, key, true).size(), static_cast<std::size_t>(kThreads * kValuesEach));
-    EXPECT_EQ(Names(registry, key, false).size(), static_cast<std::size_t>(kThreads * kValuesEach));
+    EXPECT_EQ(Testing::ValueNames(registry, key).size(),
+              static_cast<std::size_t>(kThreads * kValuesEach));
+    EXPECT_EQ(Testing::KeyNames(registry, key).size(),
+              static_cast<std::size_t>(kThreads * kValuesEach));
     registry.CloseKey(key);
     EXPECT_EQ(registry.OpenHandleCount(), 0u);
 }

@@ -57,7 +57,6 @@ protected:
 
     IRegistryApi& Api() { return *m_api; }
     RegHandle Base() const { return m_sandbox->Key(); }
-    RegistrySandbox& Sandbox() { return *m_sandbox; }
 
 private:
     std::shared_ptr<IRegistryApi> m_api;

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <memory>
+#include <functional>
 #include <vector>
 
 #include "common_src/ZelCommon/MemoryRegistry.h"
@@ -15,60 +15,7 @@ namespace {
 
 using Testing::Utf16Bytes;
 
-// Passes every call on and records the access each open or create asked for.
-class RecordingRegistry : public IRegistryApi {
-public:
-    explicit RecordingRegistry(IRegistryApi& inner) : m_inner(inner) {}
-
-    struct Open {
-        bool create;
-        RegHandle parent;
-        std::wstring path;
-        uint32_t access;
-    };
-    std::vector<Open> opens;
-    std::vector<std::pair<RegHandle, std::wstring>> deletes;
-
-    int32_t OpenKey(RegHandle parent, const wchar_t* subKey, uint32_t access,
-                    RegHandle* result) override {
-        opens.push_back({false, parent, subKey, access});
-        return m_inner.OpenKey(parent, subKey, access, result);
-    }
-    int32_t CreateKey(RegHandle parent, const wchar_t* subKey, uint32_t access,
-                      const void* securityAttributes, RegHandle* result) override {
-        opens.push_back({true, parent, subKey, access});
-        return m_inner.CreateKey(parent, subKey, access, securityAttributes, result);
-    }
-    int32_t CloseKey(RegHandle key) override { return m_inner.CloseKey(key); }
-    int32_t FlushKey(RegHandle key) override { return m_inner.FlushKey(key); }
-    int32_t QueryValue(RegHandle key, const wchar_t* name, uint32_t* type, uint8_t* data,
-                       uint32_t* size) override {
-        return m_inner.QueryValue(key, name, type, data, size);
-    }
-    int32_t SetValue(RegHandle key, const wchar_t* name, uint32_t type, const uint8_t* data,
-                     uint32_t size) override {
-        return m_inner.SetValue(key, name, type, data, size);
-    }
-    int32_t DeleteKey(RegHandle parent, const wchar_t* subKey) override {
-        deletes.emplace_back(parent, subKey);
-        return m_inner.DeleteKey(parent, subKey);
-    }
-    int32_t DeleteValue(RegHandle key, const wchar_t* name) override {
-        return m_inner.DeleteValue(key, name);
-    }
-    int32_t EnumKey(RegHandle key, uint32_t index, wchar_t* name, uint32_t* nameLength) override {
-        return m_inner.EnumKey(key, index, name, nameLength);
-    }
-    int32_t EnumValue(RegHandle key, uint32_t index, wchar_t* name, uint32_t* nameLength) override {
-        return m_inner.EnumValue(key, index, name, nameLength);
-    }
-
-private:
-    IRegistryApi& m_inner;
-};
-
 constexpr wchar_t kPath[] = L"Software\\OrvaTests\\Store";
-const RegHandle kHkcu = RootHandle(RegRoot::CurrentUser);
 
 // Runs the body and returns the storage error it threw, or 0 when it threw nothing.
 template <class Body>
@@ -80,11 +27,29 @@ uint32_t ThrownCode(Body&& body) {
     return code;
 }
 
+// The in-memory registry, noting the registry view each open or create asked for.
+class ViewRecordingRegistry final : public MemoryRegistry {
+public:
+    int32_t OpenKey(RegHandle parent, const wchar_t* subKey, uint32_t access,
+                    RegHandle* result) override {
+        views.push_back(access & (RegAccess::Wow64_32Key | RegAccess::Wow64_64Key));
+        return MemoryRegistry::OpenKey(parent, subKey, access, result);
+    }
+    int32_t CreateKey(RegHandle parent, const wchar_t* subKey, uint32_t access,
+                      const void* securityAttributes, RegHandle* result) override {
+        views.push_back(access & (RegAccess::Wow64_32Key | RegAccess::Wow64_64Key));
+        return MemoryRegistry::CreateKey(parent, subKey, access, securityAttributes, result);
+    }
+    std::vector<uint32_t> views;
+};
+
 class RegistryStore : public testing::Test {
 protected:
     void SetUp() override {
         RegHandle key = 0;
-        ASSERT_EQ(m_memory.CreateKey(kHkcu, kPath, RegAccess::AllAccess, nullptr, &key), 0);
+        ASSERT_EQ(m_memory.CreateKey(RootHandle(RegRoot::CurrentUser), kPath, RegAccess::AllAccess,
+                                     nullptr, &key),
+                  0);
         m_key = UniqueRegKey(m_memory, key);
     }
 
@@ -93,186 +58,140 @@ protected:
         ASSERT_EQ(m_memory.SetValue(m_key.Get(), name, type, bytes.data(), size), 0);
     }
 
-    MemoryRegistry m_memory;
-    RecordingRegistry m_recorder{m_memory};
+    ViewRecordingRegistry m_memory;
     UniqueRegKey m_key;
 };
 
-struct AccessCase {
-    const char* name;
-    void (Registry::*open)(const Location&, const std::wstring&, int);
-    int view;
-    bool create;
-    uint32_t access;
-};
+using OpenKind = void (Registry::*)(const Location&, const std::wstring&, int);
 
-const AccessCase kAccessCases[] = {
-    {"Open", &Registry::Open, 0, false, RegAccess::QueryValue},
-    {"Open32", &Registry::Open, 1, false, RegAccess::QueryValue | RegAccess::Wow64_32Key},
-    {"Open64", &Registry::Open, 2, false, RegAccess::QueryValue | RegAccess::Wow64_64Key},
-    {"OpenView3", &Registry::Open, 3, false, RegAccess::QueryValue},
-    {"OpenViewNegative", &Registry::Open, -1, false, RegAccess::QueryValue},
-    {"Create", &Registry::Create, 0, true,
-     RegAccess::QueryValue | RegAccess::SetValue | RegAccess::CreateSubKey},
-    {"Create32", &Registry::Create, 1, true,
-     RegAccess::QueryValue | RegAccess::SetValue | RegAccess::CreateSubKey |
-         RegAccess::Wow64_32Key},
-    {"WriteAndDelete", &Registry::OpenForWriteAndDelete, 0, false,
-     RegAccess::SetValue | RegAccess::Delete},
-    {"WriteAndDelete64", &Registry::OpenForWriteAndDelete, 2, false,
-     RegAccess::SetValue | RegAccess::Delete | RegAccess::Wow64_64Key},
-    {"Enumerate", &Registry::OpenForEnumerate, 0, false,
-     RegAccess::QueryValue | RegAccess::EnumerateSubKeys},
-    {"Enumerate32", &Registry::OpenForEnumerate, 1, false,
-     RegAccess::QueryValue | RegAccess::EnumerateSubKeys | RegAccess::Wow64_32Key},
-};
-
-TEST_F(RegistryStore, OpenKinds_AskForTheirAccessAndView) {
-    for (const AccessCase& c : kAccessCases) {
-        SCOPED_TRACE(c.name);
-        m_recorder.opens.clear();
-        Registry store(m_recorder);
-        (store.*c.open)(RegRoot::CurrentUser, kPath, c.view);
-        ASSERT_EQ(m_recorder.opens.size(), 1u);
-        EXPECT_EQ(m_recorder.opens[0].create, c.create);
-        EXPECT_EQ(m_recorder.opens[0].parent, kHkcu);
-        EXPECT_EQ(m_recorder.opens[0].path, kPath);
-        EXPECT_EQ(m_recorder.opens[0].access, c.access);
+// Each kind of open grants what its users need and no more: reading, writing and deleting
+// values, listing subkeys. View 1 asks for the 32-bit registry, 2 for the 64-bit one.
+TEST_F(RegistryStore, OpenKinds_GrantTheirRightsInTheAskedView) {
+    const struct {
+        const char* name;
+        OpenKind open;
+        bool reads;
+        bool writes;
+        bool lists;
+    } kinds[] = {
+        {"open", &Registry::Open, true, false, false},
+        {"create", &Registry::Create, true, true, false},
+        {"write and delete", &Registry::OpenForWriteAndDelete, false, true, false},
+        {"enumerate", &Registry::OpenForEnumerate, true, false, true},
+    };
+    const auto status = [](bool granted) { return granted ? 0u : 5u; };
+    for (const auto& kind : kinds) {
+        SCOPED_TRACE(kind.name);
+        Registry writer(m_memory);
+        writer.Create(RegRoot::CurrentUser, kPath, 0);
+        writer.SetDword(L"d", 1);
+        Registry store(m_memory);
+        (store.*kind.open)(RegRoot::CurrentUser, kPath, 0);
         EXPECT_TRUE(store.IsOpen());
         EXPECT_EQ(store.KeyPath(), kPath);
+        StringList names;
+        EXPECT_EQ(ThrownCode([&] { store.GetDword(L"d", 0); }), status(kind.reads));
+        EXPECT_EQ(ThrownCode([&] { store.EnumKeys(names); }), status(kind.lists));
+        EXPECT_EQ(ThrownCode([&] { store.DeleteValue(L"d"); }), status(kind.writes));
+        EXPECT_EQ(ThrownCode([&] { store.SetDword(L"d", 2); }), status(kind.writes));
+
+        for (const int view : {0, 1, 2, 3, -1}) {
+            m_memory.views.clear();
+            (store.*kind.open)(RegRoot::CurrentUser, kPath, view);
+            EXPECT_EQ(m_memory.views, std::vector<uint32_t>{view == 1   ? RegAccess::Wow64_32Key
+                                                            : view == 2 ? RegAccess::Wow64_64Key
+                                                                        : 0u})
+                << view;
+        }
     }
 }
 
-TEST_F(RegistryStore, OpenMissingKey_ThrowsItsStatus) {
-    Registry store(m_memory);
-    EXPECT_EQ(ThrownCode([&] { store.Open(RegRoot::CurrentUser, L"Software\\Missing", 0); }), 2u);
-    EXPECT_FALSE(store.IsOpen());
-}
-
-TEST_F(RegistryStore, OpenLeadingBackslash_ThrowsBadPath) {
-    Registry store(m_memory);
-    EXPECT_EQ(ThrownCode([&] { store.Create(RegRoot::CurrentUser, L"\\Software\\X", 0); }), 161u);
-}
-
-TEST_F(RegistryStore, Create_MakesMissingParents) {
+TEST_F(RegistryStore, Create_MakesMissingParentsAndRefusesALeadingBackslash) {
     Registry store(m_memory);
     store.Create(RegRoot::CurrentUser, L"Software\\OrvaTests\\New\\Deep", 0);
     store.SetDword(L"n", 3);
     Registry reader(m_memory);
     reader.Open(RegRoot::CurrentUser, L"software\\orvatests\\new\\deep", 0);
     EXPECT_EQ(reader.GetDword(L"N", 0), 3u);
+
+    Registry refused(m_memory);
+    EXPECT_EQ(ThrownCode([&] { refused.Create(RegRoot::CurrentUser, L"\\Software\\X", 0); }), 161u);
+    EXPECT_EQ(ThrownCode([&] { refused.Open(RegRoot::CurrentUser, L"Software\\Missing", 0); }), 2u);
+    EXPECT_FALSE(refused.IsOpen());
 }
 
-TEST_F(RegistryStore, GetString_MissingValueWithDefault_ThrowsFileNotFound) {
+TEST_F(RegistryStore, MissingValue_ThrowsFileNotFoundNamingKeyAndValueDespiteTheDefault) {
     Registry store(m_memory);
     store.Open(RegRoot::CurrentUser, kPath, 0);
     uint32_t code = 0;
-    std::wstring valueName;
     ZelCommon::Exception::CatchThrown<RegException>(
         [&] { store.GetString(L"Missing", L"fallback"); },
         [&](const RegException& e) {
             code = e.ErrorCode();
-            valueName = e.ValueName();
+            EXPECT_EQ(e.ValueName(), L"Missing");
             EXPECT_EQ(e.KeyPath(), kPath);
         });
     EXPECT_EQ(code, 2u);
-    EXPECT_EQ(valueName, L"Missing");
-}
-
-TEST_F(RegistryStore, GetDword_MissingValueWithDefault_ThrowsFileNotFound) {
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
     EXPECT_EQ(ThrownCode([&] { store.GetDword(L"Missing", 42); }), 2u);
 }
 
-TEST_F(RegistryStore, SetString_RoundTrips_WithTerminatorCounted) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
-    store.SetString(L"Name", L"Grüße, world");
-    uint32_t type = 0;
-    uint32_t size = 0;
-    ASSERT_EQ(m_memory.QueryValue(m_key.Get(), L"Name", &type, nullptr, &size), 0);
-    EXPECT_EQ(type, RegType::Sz);
-    EXPECT_EQ(size, (12u + 1u) * 2u);
-    EXPECT_EQ(store.GetString(L"name", L""), L"Grüße, world");
-}
-
-TEST_F(RegistryStore, GetString_EmptyValue_IsEmpty) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
-    store.SetString(L"e", L"");
-    EXPECT_EQ(store.GetString(L"e", L"x"), L"");
-}
-
-TEST_F(RegistryStore, GetString_UnterminatedValue_ComesBackWhole) {
-    // "abcd" counted as three characters, so the registry keeps it unterminated.
-    SetRaw(L"raw", RegType::Sz, Utf16Bytes(L"abcd"), 6);
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
-    EXPECT_EQ(store.GetString(L"raw", L""), L"abc");
-}
-
-TEST_F(RegistryStore, GetString_OddSizedValue_DoesNotOverRead) {
-    // Three bytes: one character and half of the next; the registry peeks past the count.
-    SetRaw(L"odd", RegType::ExpandSz, {'a', 0, 'b', 'x', 'y', 'z'}, 3);
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
-    EXPECT_EQ(store.GetString(L"odd", L""), L"ab");
-}
-
-TEST_F(RegistryStore, GetString_ExpandAndMultiText_AreAccepted) {
-    SetRaw(L"exp", RegType::ExpandSz, Utf16Bytes(L"%TEMP%\\x"), 18);
+// What each getter makes of the bytes the registry holds: strings of any of the three text
+// types, ended even when stored without their zero and never read past their size; binary and
+// 32-bit values only of their own type and exact size, else invalid data (13).
+TEST_F(RegistryStore, Getters_ReadRawValuesOrRefuseThemAsInvalidData) {
     const std::vector<uint8_t> multi = Utf16Bytes(std::wstring(L"one\0two\0", 8));
-    SetRaw(L"multi", RegType::MultiSz, multi, static_cast<uint32_t>(multi.size()));
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
-    EXPECT_EQ(store.GetString(L"exp", L""), L"%TEMP%\\x");
-    EXPECT_EQ(store.GetString(L"multi", L""), L"one");
-}
-
-TEST_F(RegistryStore, GetString_OfDword_ThrowsInvalidData) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
-    store.SetDword(L"d", 5);
-    EXPECT_EQ(ThrownCode([&] { store.GetString(L"d", L""); }), 13u);
-}
-
-TEST_F(RegistryStore, GetBinary_ThreeBytesIntoFour_ThrowsInvalidData) {
-    SetRaw(L"b", RegType::Binary, {1, 2, 3}, 3);
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
-    uint8_t buffer[4] = {9, 9, 9, 9};
-    EXPECT_EQ(ThrownCode([&] { store.GetBinary(L"b", buffer, 4); }), 13u);
-    EXPECT_EQ(buffer[0], 9);
-}
-
-TEST_F(RegistryStore, GetBinary_FiveBytesIntoFour_ThrowsInvalidData) {
-    SetRaw(L"b", RegType::Binary, {1, 2, 3, 4, 5}, 5);
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
     uint8_t buffer[4] = {};
-    EXPECT_EQ(ThrownCode([&] { store.GetBinary(L"b", buffer, 4); }), 13u);
-}
-
-TEST_F(RegistryStore, SetBinary_RoundTrips) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
-    const uint8_t data[] = {0xDE, 0xAD, 0xBE, 0xEF, 0x00};
-    store.SetBinary(L"blob", data, sizeof(data));
-    uint8_t back[5] = {};
-    store.GetBinary(L"blob", back, sizeof(back));
-    EXPECT_EQ(0, std::memcmp(data, back, sizeof(data)));
-}
-
-TEST_F(RegistryStore, GetBinary_OfText_ThrowsInvalidData) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
-    store.SetString(L"s", L"a");  // four bytes, but not binary
-    uint8_t buffer[4] = {};
-    EXPECT_EQ(ThrownCode([&] { store.GetBinary(L"s", buffer, 4); }), 13u);
-}
-
-TEST_F(RegistryStore, GetDword_WrongTypeOrSize_ThrowsInvalidData) {
+    const auto readBinary = [&buffer](Registry& r) {
+        r.GetBinary(L"v", buffer, 4);
+        return std::wstring();
+    };
+    const struct {
+        const char* name;
+        uint32_t type;
+        std::vector<uint8_t> bytes;
+        uint32_t size;
+        std::function<std::wstring(Registry&)> read;
+        std::wstring value;  // empty when the read throws
+        uint32_t error;
+    } cases[] = {
+        {"empty text", RegType::Sz, Utf16Bytes(L""), 2,
+         [](Registry& r) { return r.GetString(L"v", L"x"); }, L"", 0},
+        {"unterminated text", RegType::Sz, Utf16Bytes(L"abcd"), 6,
+         [](Registry& r) { return r.GetString(L"v", L""); }, L"abc", 0},
+        {"odd size",
+         RegType::ExpandSz,
+         {'a', 0, 'b', 'x', 'y', 'z'},
+         3,
+         [](Registry& r) { return r.GetString(L"v", L""); },
+         L"ab",
+         0},
+        {"expandable text", RegType::ExpandSz, Utf16Bytes(L"%TEMP%\\x"), 18,
+         [](Registry& r) { return r.GetString(L"v", L""); }, L"%TEMP%\\x", 0},
+        {"multi-text", RegType::MultiSz, multi, static_cast<uint32_t>(multi.size()),
+         [](Registry& r) { return r.GetString(L"v", L""); }, L"one", 0},
+        {"dword as text",
+         RegType::Dword,
+         {5, 0, 0, 0},
+         4,
+         [](Registry& r) { return r.GetString(L"v", L""); },
+         L"",
+         13},
+        {"three bytes into four", RegType::Binary, {1, 2, 3}, 3, readBinary, L"", 13},
+        {"five bytes into four", RegType::Binary, {1, 2, 3, 4, 5}, 5, readBinary, L"", 13},
+        {"text as binary", RegType::Sz, Utf16Bytes(L"a"), 4, readBinary, L"", 13},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        SetRaw(L"v", each.type, each.bytes, each.size);
+        Registry store(m_memory);
+        store.Open(RegRoot::CurrentUser, kPath, 0);
+        std::wstring value;
+        std::memset(buffer, 9, sizeof(buffer));
+        EXPECT_EQ(ThrownCode([&] { value = each.read(store); }), each.error);
+        EXPECT_EQ(value, each.value);
+        EXPECT_EQ(buffer[0], 9) << "a refused read leaves the caller's buffer alone";
+    }
+    // Neither 32-bit getter takes binary data or a value of another size.
     SetRaw(L"bin4", RegType::Binary, {1, 0, 0, 0}, 4);
     SetRaw(L"dword3", RegType::Dword, {1, 0, 0}, 3);
     SetRaw(L"dword8", RegType::Dword, {1, 0, 0, 0, 0, 0, 0, 0}, 8);
@@ -284,109 +203,84 @@ TEST_F(RegistryStore, GetDword_WrongTypeOrSize_ThrowsInvalidData) {
     }
 }
 
-TEST_F(RegistryStore, SetDword_IsLittleEndianFourBytes) {
+// Text with its terminator counted, binary as given, 32-bit values as four little-endian bytes
+// that the second getter reads as signed.
+TEST_F(RegistryStore, Setters_StoreTheirTypeAndBytes) {
+    const uint8_t blob[] = {0xDE, 0xAD, 0xBE, 0xEF, 0x00};
     Registry store(m_memory);
     store.Create(RegRoot::CurrentUser, kPath, 0);
-    store.SetDword(L"d", 0x11223344u);
-    uint8_t bytes[4] = {};
-    uint32_t size = 4;
-    uint32_t type = 0;
-    ASSERT_EQ(m_memory.QueryValue(m_key.Get(), L"d", &type, bytes, &size), 0);
-    EXPECT_EQ(type, RegType::Dword);
-    EXPECT_EQ(bytes[0], 0x44);
-    EXPECT_EQ(bytes[3], 0x11);
-    EXPECT_EQ(store.GetDword(L"d", 0), 0x11223344u);
-}
-
-TEST_F(RegistryStore, GetSigned_ReadsDwordAsSigned) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
+    store.SetString(L"Name", L"Grüße, world");
+    store.SetBinary(L"blob", blob, sizeof(blob));
     store.SetDword(L"d", 0xFFFFFFFEu);
-    EXPECT_EQ(store.GetSigned(L"d"), -2);
+    const struct {
+        const wchar_t* name;
+        uint32_t type;
+        std::vector<uint8_t> bytes;
+    } stored[] = {
+        {L"Name", RegType::Sz, Utf16Bytes(L"Grüße, world")},
+        {L"blob", RegType::Binary, std::vector<uint8_t>(blob, blob + sizeof(blob))},
+        {L"d", RegType::Dword, {0xFE, 0xFF, 0xFF, 0xFF}},
+    };
+    for (const auto& each : stored) {
+        std::vector<uint8_t> bytes(64);
+        uint32_t size = 64;
+        uint32_t type = 0;
+        ASSERT_EQ(m_memory.QueryValue(m_key.Get(), each.name, &type, bytes.data(), &size), 0);
+        bytes.resize(size);
+        EXPECT_EQ(type, each.type);
+        EXPECT_EQ(bytes, each.bytes);
+    }
+    uint8_t back[5] = {};
+    store.GetBinary(L"blob", back, sizeof(back));
+    EXPECT_EQ(0, std::memcmp(blob, back, sizeof(blob)));
+    EXPECT_EQ(store.GetString(L"name", L""), L"Grüße, world");
     EXPECT_EQ(store.GetDword(L"d", 0), 0xFFFFFFFEu);
+    EXPECT_EQ(store.GetSigned(L"d"), -2);
 }
 
-TEST_F(RegistryStore, ReadOnlyOpen_RefusesWrites) {
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
-    EXPECT_EQ(ThrownCode([&] { store.SetDword(L"d", 1); }), 5u);
-    EXPECT_EQ(ThrownCode([&] { store.DeleteValue(L"d"); }), 5u);
-}
-
-TEST_F(RegistryStore, WriteAndDeleteOpen_RefusesReads) {
-    Registry store(m_memory);
-    store.OpenForWriteAndDelete(RegRoot::CurrentUser, kPath, 0);
-    store.SetDword(L"d", 1);
-    EXPECT_EQ(ThrownCode([&] { store.GetDword(L"d", 0); }), 5u);
-    store.DeleteValue(L"d");
-    EXPECT_EQ(ThrownCode([&] { store.DeleteValue(L"d"); }), 2u);
-}
-
-TEST_F(RegistryStore, EnumKeys_ListsSubkeysInRegistryOrder) {
+TEST_F(RegistryStore, Enumerations_AppendNamesInRegistryOrder) {
     for (const wchar_t* name : {L"beta", L"Alpha", L"gamma"}) {
         RegHandle key = 0;
         ASSERT_EQ(m_memory.CreateKey(m_key.Get(), name, RegAccess::QueryValue, nullptr, &key), 0);
         m_memory.CloseKey(key);
     }
+    Registry writer(m_memory);
+    writer.Create(RegRoot::CurrentUser, kPath, 0);
+    writer.SetDword(L"second", 2);
+    writer.SetString(L"first", L"1");
     Registry store(m_memory);
     store.OpenForEnumerate(RegRoot::CurrentUser, kPath, 0);
-    StringList names{L"kept"};
-    store.EnumKeys(names);
-    EXPECT_EQ(names, (StringList{L"kept", L"Alpha", L"beta", L"gamma"}));
-}
+    StringList keys{L"kept"};
+    store.EnumKeys(keys);
+    EXPECT_EQ(keys, (StringList{L"kept", L"Alpha", L"beta", L"gamma"}));
+    StringList values;
+    store.EnumValues(values);
+    EXPECT_EQ(values, (StringList{L"second", L"first"}));
 
-TEST_F(RegistryStore, EnumValues_ListsValueNames) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
-    store.SetDword(L"second", 2);
-    store.SetString(L"first", L"1");
-    Registry reader(m_memory);
-    reader.OpenForEnumerate(RegRoot::CurrentUser, kPath, 0);
-    StringList names;
-    reader.EnumValues(names);
-    EXPECT_EQ(names, (StringList{L"second", L"first"}));
-}
-
-TEST_F(RegistryStore, EnumValues_NameLongerThanBuffer_Throws) {
     const std::wstring longName(300, L'v');
     ASSERT_EQ(m_memory.SetValue(m_key.Get(), longName.c_str(), RegType::Binary, nullptr, 0), 0);
-    Registry store(m_memory);
-    store.OpenForEnumerate(RegRoot::CurrentUser, kPath, 0);
-    StringList names;
-    EXPECT_EQ(ThrownCode([&] { store.EnumValues(names); }), 234u);
+    EXPECT_EQ(ThrownCode([&] { store.EnumValues(values); }), 234u);
 }
 
-TEST_F(RegistryStore, EnumKeys_WithoutEnumerateRight_Throws) {
+TEST_F(RegistryStore, DeleteKey_DeletesAnEmptyKeyAndClosesIt) {
     Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
-    StringList names;
-    EXPECT_EQ(ThrownCode([&] { store.EnumKeys(names); }), 5u);
-}
-
-TEST_F(RegistryStore, DeleteKey_DeletesUnderRootAndPath_ThenCloses) {
-    Registry store(m_recorder);
     store.Create(RegRoot::CurrentUser, L"Software\\OrvaTests\\Doomed", 0);
     const std::size_t handlesBefore = m_memory.OpenHandleCount();
     store.DeleteKey();
-    ASSERT_EQ(m_recorder.deletes.size(), 1u);
-    EXPECT_EQ(m_recorder.deletes[0].first, kHkcu);
-    EXPECT_EQ(m_recorder.deletes[0].second, L"Software\\OrvaTests\\Doomed");
     EXPECT_FALSE(store.IsOpen());
     EXPECT_EQ(m_memory.OpenHandleCount(), handlesBefore - 1);
     Registry check(m_memory);
     EXPECT_EQ(
         ThrownCode([&] { check.Open(RegRoot::CurrentUser, L"Software\\OrvaTests\\Doomed", 0); }),
         2u);
+
+    Registry parent(m_memory);
+    parent.Create(RegRoot::CurrentUser, L"Software\\OrvaTests", 0);
+    EXPECT_EQ(ThrownCode([&] { parent.DeleteKey(); }), 5u);
+    EXPECT_TRUE(parent.IsOpen());
 }
 
-TEST_F(RegistryStore, DeleteKey_WithSubkeys_ThrowsAccessDenied) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, L"Software\\OrvaTests", 0);
-    EXPECT_EQ(ThrownCode([&] { store.DeleteKey(); }), 5u);
-    EXPECT_TRUE(store.IsOpen());
-}
-
-TEST_F(RegistryStore, CloseAndDestructor_ReleaseTheHandle) {
+TEST_F(RegistryStore, CloseReopenAndDestructor_ReleaseTheHandle) {
     const std::size_t before = m_memory.OpenHandleCount();
     {
         Registry store(m_memory);
@@ -394,6 +288,7 @@ TEST_F(RegistryStore, CloseAndDestructor_ReleaseTheHandle) {
         EXPECT_EQ(m_memory.OpenHandleCount(), before + 1);
         store.Open(RegRoot::CurrentUser, kPath, 0);  // reopening drops the first key
         EXPECT_EQ(m_memory.OpenHandleCount(), before + 1);
+        EXPECT_EQ(ThrownCode([&] { store.Flush(); }), 0u);
     }
     EXPECT_EQ(m_memory.OpenHandleCount(), before);
     Registry store(m_memory);
@@ -401,21 +296,11 @@ TEST_F(RegistryStore, CloseAndDestructor_ReleaseTheHandle) {
     store.Close(false);
     EXPECT_FALSE(store.IsOpen());
     EXPECT_EQ(m_memory.OpenHandleCount(), before);
-}
-
-TEST_F(RegistryStore, OperationsOnClosedStore_ThrowInvalidHandle) {
-    Registry store(m_memory);
     EXPECT_EQ(ThrownCode([&] { store.GetString(L"x", L""); }), 6u);
     EXPECT_EQ(ThrownCode([&] { store.Flush(); }), 6u);
 }
 
-TEST_F(RegistryStore, Flush_OnOpenKey_Succeeds) {
-    Registry store(m_memory);
-    store.Open(RegRoot::CurrentUser, kPath, 0);
-    EXPECT_EQ(ThrownCode([&] { store.Flush(); }), 0u);
-}
-
-TEST_F(RegistryStore, CharArrayOverloads_ForwardToMainForms) {
+TEST_F(RegistryStore, CharArrayOverloads_ActAsTheMainForms) {
     Registry store(m_memory);
     store.Create(RegRoot::CurrentUser, kPath, 0);
     Base& base = store;
@@ -424,6 +309,7 @@ TEST_F(RegistryStore, CharArrayOverloads_ForwardToMainForms) {
     EXPECT_EQ(base.GetString(name, L""), L"v");
     base.DeleteValue(name);
     EXPECT_EQ(ThrownCode([&] { base.GetString(name, L""); }), 2u);
+    EXPECT_EQ(ThrownCode([&] { base.DeleteValue(name); }), 2u);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
+#include "support/TempFolder.h"
 
 namespace ZelCommon::Path {
 namespace {
@@ -35,16 +35,13 @@ TEST(Path, FileNameOf_FindsLastComponent) {
 }
 
 TEST(Path, CreateFolderWithParents_CreatesMissingChain) {
-    const std::filesystem::path base =
-        std::filesystem::temp_directory_path() /
-        ("orva-path-test-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
-    const std::wstring deep = ChildFolder(ChildFolder(base.wstring(), L"a"), L"b");
+    Orva::Testing::TempFolder temp;
+    const std::wstring deep = ChildFolder(temp.Folder(L"a"), L"b");
     EXPECT_FALSE(FolderExists(deep));
     EXPECT_TRUE(CreateFolderWithParents(deep));
     EXPECT_TRUE(FolderExists(deep));
     EXPECT_FALSE(FileExists(deep));
     EXPECT_TRUE(CreateFolderWithParents(deep));  // already there is fine
-    std::filesystem::remove_all(base);
 }
 
 }  // namespace

@@ -47,16 +47,8 @@ TEST(SystemProcessContextWin, CommonAppData_IsAnExistingFolderWithoutFinalSepara
 }
 
 TEST(SystemProcessContextWin, LastError_ReportsTheThreadsLastError) {
-    ::SetLastError(ERROR_FILE_NOT_FOUND);
-    EXPECT_EQ(SystemProcessContext().LastError(), static_cast<uint32_t>(ERROR_FILE_NOT_FOUND));
     ::SetLastError(12345);
     EXPECT_EQ(SystemProcessContext().LastError(), 12345u);
-}
-
-TEST(SystemDebuggerOutputWin, Write_ReturnsWithoutDebugger) {
-    ::SetLastError(0);
-    ZelCommon::Platform::SystemDebuggerOutput().Write(L"orva platform test line\n");
-    SUCCEED();
 }
 
 }  // namespace

@@ -29,19 +29,16 @@ public:
     TestWindow() : Orva::Testing::TestWindow(kClassName, kTitle, TestWindowProc) {}
 };
 
-TEST(SystemWindowMessagingWin, FindByTitleAndClass_FindTheWindow) {
+TEST(SystemWindowMessagingWin, FindByTitleAndClass_FindOnlyAnExistingWindow) {
     TestWindow window;
     ASSERT_NE(window.get(), nullptr);
     EXPECT_EQ(SystemWindowMessaging().FindByTitle(kTitle), window.handle());
     EXPECT_EQ(SystemWindowMessaging().FindByClass(kClassName), window.handle());
-}
-
-TEST(SystemWindowMessagingWin, MissingWindow_IsNotFound) {
     EXPECT_EQ(SystemWindowMessaging().FindByTitle(L"{no-such-orva-window}"), 0u);
     EXPECT_EQ(SystemWindowMessaging().FindByClass(L"NoSuchOrvaClass"), 0u);
 }
 
-TEST(SystemWindowMessagingWin, Post_QueuesTheMessageWithItsParameters) {
+TEST(SystemWindowMessagingWin, PostQueuesAndSendAnswers_WithTheirParameters) {
     TestWindow window;
     ASSERT_NE(window.get(), nullptr);
     ASSERT_TRUE(SystemWindowMessaging().Post(window.handle(), WM_USER + 1033, 17, -5));
@@ -51,11 +48,6 @@ TEST(SystemWindowMessagingWin, Post_QueuesTheMessageWithItsParameters) {
     EXPECT_EQ(msg.message, static_cast<UINT>(WM_USER + 1033));
     EXPECT_EQ(msg.wParam, 17u);
     EXPECT_EQ(msg.lParam, -5);
-}
-
-TEST(SystemWindowMessagingWin, Send_ReturnsTheWindowProceduresResult) {
-    TestWindow window;
-    ASSERT_NE(window.get(), nullptr);
     EXPECT_EQ(SystemWindowMessaging().Send(window.handle(), kAnswerMessage, 20, 3), 43);
 }
 

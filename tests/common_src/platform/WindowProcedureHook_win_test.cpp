@@ -58,43 +58,23 @@ std::unique_ptr<IWindowProcedureHook> NewHook() {
     return CreateWindowProcedureHook(ValueOf(HookProc));
 }
 
-TEST(WindowProcedureHookWin, CurrentProcedure_IsTheClassProcedure) {
-    TestWindow window;
-    ASSERT_NE(window.get(), nullptr);
-    EXPECT_EQ(NewHook()->CurrentProcedure(window.handle()), ValueOf(OriginalProc));
-}
-
-TEST(WindowProcedureHookWin, InstallHook_SendsMessagesThroughTheHookProcedure) {
+TEST(WindowProcedureHookWin, InstallCallAndRestore_SubclassTheWindowAndGiveItBack) {
     TestWindow window;
     ASSERT_NE(window.get(), nullptr);
     const auto hook = NewHook();
+    const WindowProcedure saved = hook->CurrentProcedure(window.handle());
+    EXPECT_EQ(saved, ValueOf(OriginalProc));
+
     ASSERT_TRUE(hook->InstallHook(window.handle()));
     EXPECT_EQ(hook->CurrentProcedure(window.handle()), ValueOf(HookProc));
     EXPECT_EQ(::SendMessageW(window.get(), kProbeMessage, 5, 0), 2005);
-    ASSERT_EQ(g_hookSaw.size(), 1u);
-    EXPECT_EQ(g_hookSaw[0], kProbeMessage);
-}
-
-TEST(WindowProcedureHookWin, CallProcedure_ReachesTheSavedProcedure) {
-    TestWindow window;
-    ASSERT_NE(window.get(), nullptr);
-    const auto hook = NewHook();
-    const WindowProcedure saved = hook->CurrentProcedure(window.handle());
-    ASSERT_TRUE(hook->InstallHook(window.handle()));
     EXPECT_EQ(hook->CallProcedure(saved, window.handle(), kProbeMessage, 7, 0), 1007);
-    EXPECT_TRUE(g_hookSaw.empty());
-}
+    EXPECT_EQ(g_hookSaw, std::vector<UINT>{kProbeMessage});
 
-TEST(WindowProcedureHookWin, Restore_PutsTheSavedProcedureBack) {
-    TestWindow window;
-    ASSERT_NE(window.get(), nullptr);
-    const auto hook = NewHook();
-    const WindowProcedure saved = hook->CurrentProcedure(window.handle());
-    ASSERT_TRUE(hook->InstallHook(window.handle()));
     ASSERT_TRUE(hook->Restore(window.handle(), saved));
     EXPECT_EQ(hook->CurrentProcedure(window.handle()), saved);
     EXPECT_EQ(::SendMessageW(window.get(), kProbeMessage, 3, 0), 1003);
-    EXPECT_TRUE(g_hookSaw.empty());
+    EXPECT_EQ(g_hookSaw, std::vector<UINT>{kProbeMessage});
 }
 
 TEST(WindowProcedureHookWin, CallDefault_DoesDefaultProcessing) {
@@ -106,27 +86,21 @@ TEST(WindowProcedureHookWin, CallDefault_DoesDefaultProcessing) {
     EXPECT_EQ(hook->CallDefault(window.handle(), kProbeMessage, 9, 0), 0);
 }
 
-TEST(WindowProcedureHookWin, DestroyedWindow_IsRefused) {
+TEST(WindowProcedureHookWin, DestroyedWindowOrNullProcedure_IsRefused) {
     WindowHandle gone = 0;
-    WindowProcedure saved = 0;
     {
         TestWindow window;
-        saved = ValueOf(OriginalProc);
+        ASSERT_NE(window.get(), nullptr);
+        EXPECT_FALSE(CreateWindowProcedureHook(0)->InstallHook(window.handle()));
+        EXPECT_FALSE(NewHook()->Restore(window.handle(), 0));
+        EXPECT_EQ(NewHook()->CurrentProcedure(window.handle()), ValueOf(OriginalProc));
+        EXPECT_EQ(NewHook()->CallProcedure(0, window.handle(), kProbeMessage, 1, 0), 0);
         gone = window.handle();
     }
     const auto hook = NewHook();
     EXPECT_EQ(hook->CurrentProcedure(gone), 0u);
     EXPECT_FALSE(hook->InstallHook(gone));
-    EXPECT_FALSE(hook->Restore(gone, saved));
-}
-
-TEST(WindowProcedureHookWin, NullProcedures_AreRefused) {
-    TestWindow window;
-    ASSERT_NE(window.get(), nullptr);
-    EXPECT_FALSE(CreateWindowProcedureHook(0)->InstallHook(window.handle()));
-    EXPECT_FALSE(NewHook()->Restore(window.handle(), 0));
-    EXPECT_EQ(NewHook()->CurrentProcedure(window.handle()), ValueOf(OriginalProc));
-    EXPECT_EQ(NewHook()->CallProcedure(0, window.handle(), kProbeMessage, 1, 0), 0);
+    EXPECT_FALSE(hook->Restore(gone, ValueOf(OriginalProc)));
 }
 
 }  // namespace

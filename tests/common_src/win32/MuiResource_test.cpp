@@ -5,10 +5,10 @@
 
 #include <filesystem>
 
-#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/ProcessContext.h"
 #include "support/TempFolder.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 
 namespace ZelCommon::Win32 {
 namespace {
@@ -57,16 +57,17 @@ TEST_F(MuiResourceTest, FolderWithoutTheModule_TellsTheDebugger) {
     EXPECT_THAT(debugger.Texts(), ElementsAre(L"Failed to load MUI resource"));
 }
 
-TEST(ResourceHandle, MissingFile_LeavesNothingLoaded) {
+TEST(ResourceHandle, MissingFile_LeavesNothingLoadedNotEvenTheOldModule) {
     Orva::Testing::TempFolder temp;
     ResourceHandle handle;
+    ASSERT_TRUE(handle.Load(Platform::SystemProcessContext().ModuleFilePath()));
     EXPECT_FALSE(handle.Load(temp.File(L"absent.dll.mui")));
     EXPECT_FALSE(handle.IsLoaded());
     EXPECT_EQ(handle.Module(), nullptr);
     EXPECT_EQ(handle.Path(), L"");
 }
 
-TEST(ResourceHandle, Move_HandsTheModuleOverOnce) {
+TEST(ResourceHandle, MoveAndReset_HandTheModuleOverOnceThenForgetIt) {
     ResourceHandle first;
     ASSERT_TRUE(first.Load(Platform::SystemProcessContext().ModuleFilePath()));
     void* const module = first.Module();
@@ -77,16 +78,8 @@ TEST(ResourceHandle, Move_HandsTheModuleOverOnce) {
     EXPECT_FALSE(first.IsLoaded());  // NOLINT(bugprone-use-after-move): moved-from state is defined
     second.Reset();
     EXPECT_FALSE(second.IsLoaded());
-}
-
-TEST(ResourceHandle, LoadAgainAfterFailure_ForgetsTheOldModule) {
-    Orva::Testing::TempFolder temp;
-    ResourceHandle handle;
-    ASSERT_TRUE(handle.Load(Platform::SystemProcessContext().ModuleFilePath()));
-
-    EXPECT_FALSE(handle.Load(temp.File(L"absent.dll.mui")));
-
-    EXPECT_FALSE(handle.IsLoaded());
+    EXPECT_EQ(second.Module(), nullptr);
+    EXPECT_EQ(second.Path(), L"");
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <fstream>
 
-#include "common_src/platform/ProcessContext.h"
 #include "common_src/win32/ResourceHandle.h"
 #include "support/TempFolder.h"
 
@@ -38,18 +37,6 @@ TEST(ResourceHandleWin, TextFile_IsNoModule) {
     ResourceHandle handle;
     EXPECT_FALSE(handle.Load(path));
     EXPECT_FALSE(handle.IsLoaded());
-}
-
-TEST(ResourceHandleWin, Reset_ForgetsModuleAndPath) {
-    ResourceHandle handle;
-    ASSERT_TRUE(handle.Load(Platform::SystemProcessContext().ModuleFilePath()));
-    ASSERT_NE(handle.Module(), nullptr);
-
-    handle.Reset();
-
-    EXPECT_FALSE(handle.IsLoaded());
-    EXPECT_EQ(handle.Module(), nullptr);
-    EXPECT_EQ(handle.Path(), L"");
 }
 
 }  // namespace

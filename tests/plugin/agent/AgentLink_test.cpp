@@ -1,8 +1,8 @@
 #include "plugin/agent/AgentLink.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,161 +15,117 @@ using Orva::Plugin::DeliveryOf;
 using Orva::Plugin::IsButtonCommand;
 using Orva::Testing::AgentEntry;
 using Orva::Testing::ControllerRig;
+using Orva::Testing::Journal;
 using Orva::Testing::LogEntry;
-using testing::ElementsAre;
-using testing::IsEmpty;
+using Orva::Testing::Times;
 
 const std::wstring kTitle = L"{56639265-C81B-440d-B5CD-3A7ED4F42777}";
 const std::wstring kRetry =
     LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
 const std::wstring kSuccess =
     LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle success");
+const std::wstring kLaunchIn = LogEntry(L"@@@ CToolBarWnd::LaunchShadow  IN");
+const std::wstring kLaunchOut = LogEntry(L"@@@ CToolBarWnd::LaunchShadow  OUT");
 
-TEST(AgentLink, CommandLine_QuotesTheProgramPathButNotTheTitle) {
+TEST(AgentLink, LaunchShadow_StartsTheQuotedProgramWithTheTitleAndLogsAFailure) {
     ControllerRig rig;
     Orva::Plugin::CAgentLink link(rig.messaging, rig.clock, rig.launcher, rig.log,
                                   L"C:\\Program Files\\Halvion\\WLM\\");
     EXPECT_EQ(link.CommandLine(), L"\"C:\\Program Files\\Halvion\\WLM\\ORVA_WLM.exe\" " + kTitle);
-}
 
-TEST(AgentLink, LaunchShadow_Succeeds_LaunchesBetweenInAndOut) {
-    ControllerRig rig;
-    rig.agent.LaunchShadow();
-    EXPECT_THAT(rig.Journal(), ElementsAre(LogEntry(L"@@@ CToolBarWnd::LaunchShadow  IN"),
-                                           L"launch \"C:\\Addin\\ORVA_WLM.exe\" " + kTitle + L"|",
-                                           LogEntry(L"@@@ CToolBarWnd::LaunchShadow  OUT")));
-    ASSERT_EQ(rig.launcher.Launches().size(), 1u);
-    EXPECT_EQ(rig.launcher.Launches()[0].workingFolder, L"");
-}
-
-TEST(AgentLink, LaunchShadow_Fails_LogsTheFailureAndGoesOn) {
-    ControllerRig rig;
-    rig.launcher.SetResult(false);
-    rig.agent.LaunchShadow();
-    EXPECT_THAT(rig.LogLines(),
-                ElementsAre(L"@@@ CToolBarWnd::LaunchShadow  IN", L"Failed to create ORVA_WLM.exe",
-                            L"@@@ CToolBarWnd::LaunchShadow  OUT"));
-    EXPECT_THAT(rig.messaging.Messages(), IsEmpty());
-}
-
-TEST(AgentLink, ShutdownShadowEX_AgentThere_PostsStopAtOnce) {
-    ControllerRig rig;
-    rig.AddAgent();
-    rig.agent.ShutdownShadowEX(20, 500);
-    EXPECT_THAT(rig.Journal(), ElementsAre(AgentEntry(L"post", 1069)));
-}
-
-TEST(AgentLink, ShutdownShadowEX_AgentOnThirdLook_RetriesThenPosts) {
-    ControllerRig rig;
-    rig.AddAgent(2);
-    rig.agent.ShutdownShadowEX(20, 500);
-    EXPECT_THAT(rig.Journal(), ElementsAre(L"sleep 500", kRetry, L"sleep 500", kSuccess,
-                                           AgentEntry(L"post", 1069)));
-}
-
-TEST(AgentLink, ShutdownShadowEX_AgentNeverAppears_TriesEachRetryAndPostsNothing) {
-    ControllerRig rig;
-    rig.agent.ShutdownShadowEX(10, 1000);
-    std::vector<std::wstring> expected;
-    for (int i = 0; i < 10; ++i) {
-        expected.push_back(L"sleep 1000");
-        expected.push_back(kRetry);
+    for (const bool launches : {true, false}) {
+        SCOPED_TRACE(launches);
+        ControllerRig fresh;
+        fresh.launcher.SetResult(launches);
+        fresh.agent.LaunchShadow();
+        const std::wstring launch = L"launch \"C:\\Addin\\ORVA_WLM.exe\" " + kTitle + L"|";
+        const std::vector<std::wstring> failure = {LogEntry(L"Failed to create ORVA_WLM.exe")};
+        EXPECT_EQ(fresh.Journal(), Journal({{kLaunchIn, launch},
+                                            launches ? std::vector<std::wstring>{} : failure,
+                                            {kLaunchOut}}));
     }
-    EXPECT_EQ(rig.Journal(), expected);
-    EXPECT_EQ(rig.messaging.LookupCount(), 11u);
 }
 
-TEST(AgentLink, ShutdownShadowEX_NoRetriesAndNoAgent_DoesNothing) {
-    ControllerRig rig;
-    rig.AddAgent(1);
-    rig.agent.ShutdownShadowEX(0, 500);
-    EXPECT_THAT(rig.Journal(), IsEmpty());
-    EXPECT_EQ(rig.messaging.LookupCount(), 1u);
+// Looks once, then once more after each retry's sleep, and posts 1069 to the agent it finds.
+TEST(AgentLink, ShutdownShadowEX_LooksForTheAgentOnceAndOncePerRetry) {
+    const struct {
+        const char* name;
+        std::optional<unsigned> missedLookups;  // none: no agent at all
+        uint32_t retries;
+        std::vector<std::wstring> journal;
+        unsigned lookups;
+    } cases[] = {
+        {"agent there", 0, 20, {AgentEntry(L"post", 1069)}, 1},
+        {"agent on the third look",
+         2,
+         20,
+         {L"sleep 500", kRetry, L"sleep 500", kSuccess, AgentEntry(L"post", 1069)},
+         3},
+        {"agent never there", std::nullopt, 10, Times(10, {L"sleep 500", kRetry}), 11},
+        {"no retries, agent late", 1, 0, {}, 1},
+        {"no retries, agent there", 0, 0, {AgentEntry(L"post", 1069)}, 1},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        ControllerRig rig;
+        if (each.missedLookups) {
+            rig.AddAgent(*each.missedLookups);
+        }
+        rig.agent.ShutdownShadowEX(each.retries, 500);
+        EXPECT_EQ(rig.Journal(), each.journal);
+        EXPECT_EQ(rig.messaging.LookupCount(), each.lookups);
+    }
 }
 
-TEST(AgentLink, ShutdownShadowEX_NoRetriesWithAgent_Posts) {
-    ControllerRig rig;
-    rig.AddAgent();
-    rig.agent.ShutdownShadowEX(0, 500);
-    EXPECT_THAT(rig.Journal(), ElementsAre(AgentEntry(L"post", 1069)));
-}
+// The toolbar's commands go to the agent only while the companion suite is not busy; every
+// other message is posted or sent as the protocol says, busy suite or not. Without an agent
+// nothing is sent and nothing is logged.
+TEST(AgentLink, Messages_ReachTheAgentAsPostsOrSends) {
+    const struct {
+        uint32_t message;
+        AgentDelivery delivery;
+        bool command;
+    } cases[] = {
+        {1038, AgentDelivery::Posted, true},  {1039, AgentDelivery::Posted, true},
+        {1041, AgentDelivery::Posted, true},  {1042, AgentDelivery::Posted, true},
+        {1043, AgentDelivery::Posted, true},  {16, AgentDelivery::Sent, false},
+        {1030, AgentDelivery::Posted, false}, {1031, AgentDelivery::Sent, false},
+        {1033, AgentDelivery::Posted, false}, {1034, AgentDelivery::Posted, false},
+        {1035, AgentDelivery::Posted, false}, {1036, AgentDelivery::Posted, false},
+        {1037, AgentDelivery::Posted, false}, {1044, AgentDelivery::Sent, false},
+        {1045, AgentDelivery::Sent, false},   {1050, AgentDelivery::Sent, false},
+        {1053, AgentDelivery::Posted, false}, {1069, AgentDelivery::Posted, false},
+        {1077, AgentDelivery::Posted, false}, {4027, AgentDelivery::Posted, false},
+    };
+    EXPECT_FALSE(IsButtonCommand(1040)) << "lies between the commands but is none";
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.message);
+        EXPECT_EQ(IsButtonCommand(each.message), each.command);
+        const bool sent = each.delivery == AgentDelivery::Sent;
+        const std::wstring entry = AgentEntry(sent ? L"send" : L"post", each.message, 0, 1);
+        for (const bool suiteBusy : {false, true}) {
+            SCOPED_TRACE(suiteBusy);
+            ControllerRig rig;
+            if (suiteBusy) {
+                rig.AddSuite();
+            }
+            EXPECT_EQ(rig.agent.Notify(each.message, 0, 1), std::nullopt);
+            if (each.command) {
+                rig.agent.SendButtonCommand(each.message);
+            }
+            EXPECT_EQ(rig.Journal(), std::vector<std::wstring>{}) << "without an agent";
 
-class AgentButtonCommand : public testing::TestWithParam<uint32_t> {};
-
-TEST_P(AgentButtonCommand, AgentThere_Posted) {
-    ControllerRig rig;
-    rig.AddAgent();
-    rig.agent.SendButtonCommand(GetParam());
-    EXPECT_THAT(rig.Journal(), ElementsAre(AgentEntry(L"post", GetParam())));
-}
-
-TEST_P(AgentButtonCommand, SuiteBusy_NothingSent) {
-    ControllerRig rig;
-    rig.AddAgent();
-    rig.AddSuite();
-    rig.agent.SendButtonCommand(GetParam());
-    EXPECT_THAT(rig.Journal(), IsEmpty());
-}
-
-TEST_P(AgentButtonCommand, NoAgent_NothingSentNothingLogged) {
-    ControllerRig rig;
-    rig.agent.SendButtonCommand(GetParam());
-    EXPECT_THAT(rig.Journal(), IsEmpty());
-    EXPECT_TRUE(IsButtonCommand(GetParam()));
-}
-
-INSTANTIATE_TEST_SUITE_P(Commands, AgentButtonCommand,
-                         testing::Values(1038u, 1039u, 1041u, 1042u, 1043u));
-
-struct DeliveryCase {
-    uint32_t message;
-    AgentDelivery delivery;
-};
-
-class AgentNotify : public testing::TestWithParam<DeliveryCase> {};
-
-TEST_P(AgentNotify, AgentThere_PostedOrSentAsTheTableSays) {
-    ControllerRig rig;
-    const auto agent = rig.AddAgent();
-    rig.messaging.SetSendResult(agent, GetParam().message, 7);
-    const auto answer = rig.agent.Notify(GetParam().message, 0, 1);
-    const bool sent = GetParam().delivery == AgentDelivery::Sent;
-    EXPECT_EQ(DeliveryOf(GetParam().message), GetParam().delivery);
-    EXPECT_THAT(rig.Journal(),
-                ElementsAre(AgentEntry(sent ? L"send" : L"post", GetParam().message, 0, 1)));
-    EXPECT_EQ(answer, sent ? 7 : 0);
-}
-
-TEST_P(AgentNotify, NoAgent_Silent) {
-    ControllerRig rig;
-    rig.AddSuite();
-    EXPECT_EQ(rig.agent.Notify(GetParam().message), std::nullopt);
-    EXPECT_THAT(rig.Journal(), IsEmpty());
-}
-
-TEST_P(AgentNotify, SuiteBusy_PagesStillReachTheAgent) {
-    ControllerRig rig;
-    rig.AddSuite();
-    rig.AddAgent();
-    rig.agent.Notify(GetParam().message);
-    EXPECT_EQ(rig.messaging.Messages().size(), 1u);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Messages, AgentNotify,
-    testing::Values(
-        DeliveryCase{16, AgentDelivery::Sent}, DeliveryCase{1030, AgentDelivery::Posted},
-        DeliveryCase{1031, AgentDelivery::Sent}, DeliveryCase{1033, AgentDelivery::Posted},
-        DeliveryCase{1034, AgentDelivery::Posted}, DeliveryCase{1035, AgentDelivery::Posted},
-        DeliveryCase{1036, AgentDelivery::Posted}, DeliveryCase{1037, AgentDelivery::Posted},
-        DeliveryCase{1044, AgentDelivery::Sent}, DeliveryCase{1045, AgentDelivery::Sent},
-        DeliveryCase{1050, AgentDelivery::Sent}, DeliveryCase{1053, AgentDelivery::Posted},
-        DeliveryCase{1069, AgentDelivery::Posted}, DeliveryCase{1077, AgentDelivery::Posted},
-        DeliveryCase{4027, AgentDelivery::Posted}));
-
-TEST(AgentLink, IsButtonCommand_OnlyTheToolbarCommands) {
-    for (const uint32_t message : {16u, 1030u, 1033u, 1040u, 1044u, 1053u, 1069u, 4027u}) {
-        EXPECT_FALSE(IsButtonCommand(message)) << message;
+            rig.messaging.SetSendResult(rig.AddAgent(), each.message, 7);
+            if (each.command) {
+                rig.agent.SendButtonCommand(each.message);
+                EXPECT_EQ(rig.Journal(),
+                          suiteBusy ? std::vector<std::wstring>{}
+                                    : std::vector<std::wstring>{AgentEntry(L"post", each.message)});
+            } else {
+                EXPECT_EQ(rig.agent.Notify(each.message, 0, 1), sent ? 7 : 0);
+                EXPECT_EQ(rig.Journal(), std::vector<std::wstring>{entry});
+            }
+        }
     }
 }
 

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
+#include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -137,15 +141,6 @@ struct ControllerRig {
     }
 
     std::vector<std::wstring> Journal() const { return journal.Entries(); }
-    std::vector<std::wstring> LogLines() const {
-        std::vector<std::wstring> lines;
-        for (const std::wstring& entry : journal.Entries()) {
-            if (entry.starts_with(L"log ")) {
-                lines.push_back(entry.substr(4));
-            }
-        }
-        return lines;
-    }
 
     TempFolder folder;
     ZelCommon::Fakes::FakeJournal journal;
@@ -183,5 +178,70 @@ struct ControllerRig {
     std::unique_ptr<Plugin::CToolBarController> controller;
     ZelCommon::Platform::WindowHandle controllerWindow = 0;
 };
+
+// A message to the controller window, or with `mainWindow` set, to the procedure that
+// subclasses the mail client's main window.
+struct Sent {
+    uint32_t message;
+    uintptr_t wParam = 0;
+    intptr_t lParam = 0;
+    uintptr_t mainWindow = 0;
+};
+
+// How the controller answered a message: "answer <n>", or "answer default" when the message is
+// left to the default processing.
+inline std::wstring Answer(std::optional<intptr_t> result) {
+    return L"answer " + (result ? std::to_wstring(*result) : std::wstring(L"default"));
+}
+
+// Journal entries in a row, for the long stretches a scenario repeats.
+inline std::vector<std::wstring> Journal(std::initializer_list<std::vector<std::wstring>> parts) {
+    std::vector<std::wstring> entries;
+    for (const std::vector<std::wstring>& part : parts) {
+        entries.insert(entries.end(), part.begin(), part.end());
+    }
+    return entries;
+}
+inline std::vector<std::wstring> Times(int count, const std::vector<std::wstring>& entries) {
+    std::vector<std::wstring> repeated;
+    for (int i = 0; i < count; ++i) {
+        repeated.insert(repeated.end(), entries.begin(), entries.end());
+    }
+    return repeated;
+}
+
+// One scenario of the controller: the rig arranged (messages it dispatches there are not
+// journaled), then `messages` dispatched, each followed in the journal by its answer.
+struct ControllerCase {
+    const char* name;
+    std::function<void(ControllerRig&)> arrange;
+    std::vector<Sent> messages;
+    std::vector<std::wstring> journal;
+    // What else the scenario leaves behind, when the journal cannot show it.
+    std::function<void(ControllerRig&)> check = nullptr;
+};
+
+inline void RunControllerCases(const std::vector<ControllerCase>& cases) {
+    for (const ControllerCase& each : cases) {
+        SCOPED_TRACE(each.name);
+        ControllerRig rig;
+        if (each.arrange) {
+            each.arrange(rig);
+        }
+        rig.journal.Clear();
+        rig.messaging.ClearMessages();
+        for (const Sent& sent : each.messages) {
+            const std::optional<intptr_t> result =
+                sent.mainWindow != 0 ? std::optional<intptr_t>(rig.Controller().HookProcedure(
+                                           sent.mainWindow, sent.message, sent.wParam, sent.lParam))
+                                     : rig.Dispatch(sent.message, sent.wParam, sent.lParam);
+            rig.journal.Add(Answer(result));
+        }
+        EXPECT_EQ(rig.Journal(), each.journal);
+        if (each.check) {
+            each.check(rig);
+        }
+    }
+}
 
 }  // namespace Orva::Testing

@@ -1,8 +1,13 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <cstddef>
+#include <mutex>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "plugin/controller/ControllerRig.h"
@@ -100,6 +105,73 @@ TEST(ControllerCopyData, RequestDuringADeleteAllOnTheSameThread_DoesNothing) {
     // Once it is over, the next request runs again.
     EXPECT_EQ(controller->OnCopyData(1078, Record(3, 4, 1)), 0);
     EXPECT_EQ(folder.runs, 2);
+}
+
+// A delete-all that holds the first caller until the test lets it go, and notes who is inside.
+class BlockingSpamFolder final : public Orva::Plugin::ISpamFolder {
+public:
+    int CreateSpamMailFolder(bool) override { return 1; }
+    void PostCleanDeletedFolder() override {}
+    void OnFolderSelectionChanged(uint64_t) override {}
+    void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t, bool) override {
+        std::unique_lock lock(m_mutex);
+        m_order.push_back(folderId);
+        ++m_inside;
+        m_maxInside = std::max(m_maxInside, m_inside);
+        m_changed.notify_all();
+        if (folderId == 1) {
+            m_changed.wait(lock, [this] { return m_released; });
+        }
+        --m_inside;
+    }
+    void WaitUntilInside() {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_inside > 0; });
+    }
+    void Release() {
+        std::lock_guard lock(m_mutex);
+        m_released = true;
+        m_changed.notify_all();
+    }
+    std::vector<uint64_t> Order() {
+        std::lock_guard lock(m_mutex);
+        return m_order;
+    }
+    int MaxInside() {
+        std::lock_guard lock(m_mutex);
+        return m_maxInside;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<uint64_t> m_order;
+    int m_inside = 0;
+    int m_maxInside = 0;
+    bool m_released = false;
+};
+
+TEST(ControllerCopyData, SecondRequestFromAnotherThread_WaitsForTheFirstToFinish) {
+    ControllerRig rig;
+    BlockingSpamFolder folder;
+    const auto controller = rig.MakeController({nullptr, nullptr, &folder});
+    const auto first = Record(1, 0, 1);
+    const auto second = Record(2, 0, 1);
+    std::thread firstCaller([&] { controller->OnCopyData(1078, first); });
+    folder.WaitUntilInside();
+    std::atomic<bool> secondDone{false};
+    std::thread secondCaller([&] {
+        controller->OnCopyData(1078, second);
+        secondDone = true;
+    });
+    // Give the second caller time to reach the lock; it must not get past it.
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_FALSE(secondDone.load());
+    folder.Release();
+    firstCaller.join();
+    secondCaller.join();
+    EXPECT_EQ(folder.Order(), (std::vector<uint64_t>{1, 2}));
+    EXPECT_EQ(folder.MaxInside(), 1);
 }
 
 }  // namespace

@@ -1,17 +1,17 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "plugin/controller/ControllerRig.h"
 
 namespace {
 
 using Orva::Testing::AgentEntry;
+using Orva::Testing::Answer;
 using Orva::Testing::ControllerRig;
+using Orva::Testing::Journal;
 using Orva::Testing::LogEntry;
-using testing::ElementsAre;
+using Orva::Testing::Times;
 
 constexpr uint32_t kReQuery = 4028;
 const std::wstring kIn = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  IN");
@@ -27,140 +27,122 @@ const std::wstring kSwitchOut = LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar 
 const std::wstring kDisabling = LogEntry(
     L"@@@ CToolBarWnd::OnReQueryDefaultAccount(), The default account is a HTTP "
     L"account, so disable the toolbar.");
+const std::wstring kRetry =
+    LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
 
-TEST(ControllerReQuery, Disabled_ReturnsAtOnce) {
-    ControllerRig rig;
-    rig.SetEnableTBar(L"0");
+// Without an agent, switching off tries ten times to stop it and the notice ten times to reach it.
+std::vector<std::wstring> SwitchedOffWithoutAgent(const std::vector<std::wstring>& first) {
+    return Journal({first,
+                    {kSwitchIn},
+                    Times(10, {L"sleep 1000", kRetry}),
+                    {L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0", kSwitchOut,
+                     L"store create-folder 1"},
+                    Times(10, {L"sleep 1000"}),
+                    {kOut, Answer(0)}});
+}
+
+void WithAgent(ControllerRig& rig) {
     rig.AddAgent();
-    EXPECT_EQ(rig.Dispatch(kReQuery, 1, 1), 0);
-    EXPECT_THAT(rig.Journal(),
-                ElementsAre(kIn, LogEntry(L"CToolBarWnd::OnReQueryDefaultAccount ORVA are "
-                                          L"disabled, return.")));
 }
-
-struct ReQueryCase {
-    uintptr_t wParam;
-    intptr_t lParam;
-    bool checksAccount;
-    const wchar_t* folderCall;
-    uint32_t agentMessage;
-};
-
-class ReQueryParameters : public testing::TestWithParam<ReQueryCase> {};
-
-TEST_P(ReQueryParameters, SupportedAccount_FolderThenAgentNotice) {
-    ControllerRig rig;
-    rig.AddAgent();
-    const ReQueryCase& c = GetParam();
-    EXPECT_EQ(rig.Dispatch(kReQuery, c.wParam, c.lParam), 0);
-    std::vector<std::wstring> expected{kIn};
-    if (c.checksAccount) {
-        expected.push_back(L"account check");
-    }
-    expected.push_back(c.folderCall);
-    expected.push_back(AgentEntry(L"post", c.agentMessage));
-    expected.push_back(kSuccess);
-    expected.push_back(kOut);
-    EXPECT_EQ(rig.Journal(), expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(Senders, ReQueryParameters,
-                         testing::Values(ReQueryCase{0, 0, true, L"store create-folder 0", 4027},
-                                         ReQueryCase{1, 1, true, L"store create-folder 1", 1077},
-                                         ReQueryCase{0, 1, false, L"store create-folder 1", 4027}));
-
-TEST(ControllerReQuery, FolderFails_NoticeNotSent) {
-    ControllerRig rig;
-    rig.AddAgent();
-    rig.spamFolder.SetCreateResult(0);
-    rig.Dispatch(kReQuery, 0, 0);
-    EXPECT_THAT(rig.Journal(),
-                ElementsAre(kIn, L"account check", L"store create-folder 0",
-                            LogEntry(L"XXX CToolBarWnd::OnReQueryDefaultAccount(), Fail to Create "
-                                     L"Spam Mail Folder."),
-                            kOut));
-}
-
-TEST(ControllerReQuery, NoAgent_TenSilentAttemptsOneSecondApart) {
-    ControllerRig rig;
-    rig.Dispatch(kReQuery, 0, 0);
-    EXPECT_EQ(rig.clock.Sleeps(), std::vector<uint32_t>(10, 1000));
-    EXPECT_THAT(rig.LogLines(), ElementsAre(kIn.substr(4), kOut.substr(4)));
-    EXPECT_EQ(rig.messaging.LookupCount(), 10u);
-    EXPECT_TRUE(rig.messaging.Messages().empty());
-}
-
-TEST(ControllerReQuery, AgentOnThirdLook_PostsAfterTwoSleeps) {
-    ControllerRig rig;
-    rig.AddAgent(2);
-    rig.Dispatch(kReQuery, 1, 1);
-    EXPECT_THAT(rig.Journal(),
-                ElementsAre(kIn, L"account check", L"store create-folder 1", L"sleep 1000",
-                            L"sleep 1000", AgentEntry(L"post", 1077), kSuccess, kOut));
-}
-
-TEST(ControllerReQuery, PostFails_LogsAndRetries) {
-    ControllerRig rig;
-    const auto agent = rig.AddAgent();
-    rig.messaging.FailPosts(agent, 1);
-    rig.Dispatch(kReQuery, 0, 0);
-    EXPECT_THAT(rig.Journal(),
-                ElementsAre(kIn, L"account check", L"store create-folder 0",
-                            AgentEntry(L"post", 4027) + L" (failed)", kPostFailed, L"sleep 1000",
-                            AgentEntry(L"post", 4027), kSuccess, kOut));
-}
-
-TEST(ControllerReQuery, UnsupportedAccount_AsksThenSwitchesOffAndStillMakesTheFolder) {
-    ControllerRig rig;
-    rig.AddAgent();
+void Unsupported(ControllerRig& rig) {
     rig.account.SetUnsupported(true);
-    rig.dialogs.SetDontShowAgain(true);
-    rig.Dispatch(kReQuery, 0, 0);
-    EXPECT_THAT(rig.Journal(),
-                ElementsAre(kIn, L"account check", L"dialog unsupported", kDisabling,
-                            AgentEntry(L"post", 1069), kSwitchIn, AgentEntry(L"post", 1069),
-                            L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0", kSwitchOut,
-                            L"store create-folder 0", AgentEntry(L"post", 4027), kSuccess, kOut));
-    EXPECT_EQ(rig.profile.Value(L"UnsupportedMailServer", L"DontBother"), L"1");
-    EXPECT_EQ(rig.profile.Value(L"Antispam", L"EnableTBar"), L"0");
-    EXPECT_FALSE(rig.Controller().IsToolbarEnabled());
 }
 
-TEST(ControllerReQuery, UnsupportedAccountNotTicked_WritesDontBotherZero) {
-    ControllerRig rig;
-    rig.account.SetUnsupported(true);
-    rig.Dispatch(kReQuery, 1, 1);
-    EXPECT_EQ(rig.profile.Value(L"UnsupportedMailServer", L"DontBother"), L"0");
-}
-
-TEST(ControllerReQuery, UnsupportedAccountDontBother_SwitchesOffSilently) {
-    ControllerRig rig;
-    rig.profile.Set(L"UnsupportedMailServer", L"DontBother", L"1");
-    rig.account.SetUnsupported(true);
-    rig.classic.SetRebarPresent(true);
-    rig.classic.OnBuildUserInterface(0, 0);
-    rig.journal.Clear();
-    rig.Dispatch(kReQuery, 1, 1);
-    std::vector<std::wstring> expected{kIn, L"account check", kDisabling, L"classic refresh",
-                                       kSwitchIn};
-    for (int retry = 0; retry < 10; ++retry) {
-        expected.push_back(L"sleep 1000");
-        expected.push_back(
-            LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry"));
-    }
-    expected.insert(expected.end(), {L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0",
-                                     kSwitchOut, L"store create-folder 1"});
-    expected.insert(expected.end(), 10, L"sleep 1000");
-    expected.push_back(kOut);
-    EXPECT_EQ(rig.Journal(), expected);
-}
-
-TEST(ControllerReQuery, UnsupportedAccountChangedParameters_NotChecked) {
-    ControllerRig rig;
-    rig.account.SetUnsupported(true);
-    rig.AddAgent();
-    rig.Dispatch(kReQuery, 0, 1);
-    EXPECT_TRUE(rig.Controller().IsToolbarEnabled());
+// (0, 0) comes from the build and (1, 1) from the host's account event: both check the account
+// and make the spam folder, then tell the agent 4027 or 1077; (0, 1) skips the check. An
+// unsupported account switches protection off (asking first unless told not to bother) and the
+// folder is still made.
+TEST(ControllerReQuery, Parameters_CheckTheAccountMakeTheFolderAndTellTheAgent) {
+    Orva::Testing::RunControllerCases({
+        {"switched off",
+         [](ControllerRig& rig) {
+             rig.SetEnableTBar(L"0");
+             rig.AddAgent();
+         },
+         {{kReQuery, 1, 1}},
+         {kIn, LogEntry(L"CToolBarWnd::OnReQueryDefaultAccount ORVA are disabled, return."),
+          Answer(0)}},
+        {"from the build",
+         WithAgent,
+         {{kReQuery, 0, 0}},
+         {kIn, L"account check", L"store create-folder 0", AgentEntry(L"post", 4027), kSuccess,
+          kOut, Answer(0)}},
+        {"from the account event",
+         WithAgent,
+         {{kReQuery, 1, 1}},
+         {kIn, L"account check", L"store create-folder 1", AgentEntry(L"post", 1077), kSuccess,
+          kOut, Answer(0)}},
+        {"without the check",
+         WithAgent,
+         {{kReQuery, 0, 1}},
+         {kIn, L"store create-folder 1", AgentEntry(L"post", 4027), kSuccess, kOut, Answer(0)}},
+        {"the folder fails: no notice",
+         [](ControllerRig& rig) {
+             rig.AddAgent();
+             rig.spamFolder.SetCreateResult(0);
+         },
+         {{kReQuery, 0, 0}},
+         {kIn, L"account check", L"store create-folder 0",
+          LogEntry(L"XXX CToolBarWnd::OnReQueryDefaultAccount(), Fail to Create Spam Mail Folder."),
+          kOut, Answer(0)}},
+        {"no agent: ten silent tries a second apart",
+         nullptr,
+         {{kReQuery, 0, 0}},
+         Journal({{kIn, L"account check", L"store create-folder 0"},
+                  Times(10, {L"sleep 1000"}),
+                  {kOut, Answer(0)}}),
+         [](ControllerRig& rig) { EXPECT_EQ(rig.messaging.LookupCount(), 10u); }},
+        {"the agent on the third look",
+         [](ControllerRig& rig) { rig.AddAgent(2); },
+         {{kReQuery, 1, 1}},
+         {kIn, L"account check", L"store create-folder 1", L"sleep 1000", L"sleep 1000",
+          AgentEntry(L"post", 1077), kSuccess, kOut, Answer(0)}},
+        {"a failed post is tried again",
+         [](ControllerRig& rig) { rig.messaging.FailPosts(rig.AddAgent(), 1); },
+         {{kReQuery, 0, 0}},
+         {kIn, L"account check", L"store create-folder 0", AgentEntry(L"post", 4027) + L" (failed)",
+          kPostFailed, L"sleep 1000", AgentEntry(L"post", 4027), kSuccess, kOut, Answer(0)}},
+        {"unsupported account, ticked not to ask again",
+         [](ControllerRig& rig) {
+             rig.AddAgent();
+             Unsupported(rig);
+             rig.dialogs.SetDontShowAgain(true);
+         },
+         {{kReQuery, 0, 0}},
+         {kIn, L"account check", L"dialog unsupported", kDisabling, AgentEntry(L"post", 1069),
+          kSwitchIn, AgentEntry(L"post", 1069), L"ribbon caption IDS_ENABLE_CAPTION",
+          L"ribbon buttons 0", kSwitchOut, L"store create-folder 0", AgentEntry(L"post", 4027),
+          kSuccess, kOut, Answer(0)},
+         [](ControllerRig& rig) {
+             EXPECT_EQ(rig.profile.Value(L"UnsupportedMailServer", L"DontBother"), L"1");
+             EXPECT_EQ(rig.profile.Value(L"Antispam", L"EnableTBar"), L"0");
+             EXPECT_FALSE(rig.Controller().IsToolbarEnabled());
+         }},
+        {"unsupported account, not ticked",
+         Unsupported,
+         {{kReQuery, 1, 1}},
+         SwitchedOffWithoutAgent({kIn, L"account check", L"dialog unsupported", kDisabling}),
+         [](ControllerRig& rig) {
+             EXPECT_EQ(rig.profile.Value(L"UnsupportedMailServer", L"DontBother"), L"0");
+         }},
+        {"unsupported account, told not to bother: switched off silently",
+         [](ControllerRig& rig) {
+             rig.profile.Set(L"UnsupportedMailServer", L"DontBother", L"1");
+             Unsupported(rig);
+             rig.classic.SetRebarPresent(true);
+             rig.classic.OnBuildUserInterface(0, 0);
+         },
+         {{kReQuery, 1, 1}},
+         SwitchedOffWithoutAgent({kIn, L"account check", kDisabling, L"classic refresh"})},
+        {"unsupported account, without the check",
+         [](ControllerRig& rig) {
+             rig.AddAgent();
+             Unsupported(rig);
+         },
+         {{kReQuery, 0, 1}},
+         {kIn, L"store create-folder 1", AgentEntry(L"post", 4027), kSuccess, kOut, Answer(0)},
+         [](ControllerRig& rig) { EXPECT_TRUE(rig.Controller().IsToolbarEnabled()); }},
+    });
 }
 
 }  // namespace

@@ -146,7 +146,7 @@ TEST_F(AddinInWine, UnloadWithoutTheHostsShutdown_LeavesNoWindowBehind) {
     EXPECT_FALSE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
 }
 
-TEST_F(AddinInWine, CopyDataFromTheAgent_OnlyAWholeFlaggedRecordAsksToDeleteAllSpam) {
+TEST_F(AddinInWine, CopyDataFromTheAgentsProcess_AWholeFlaggedRecordAsksToDeleteAllSpam) {
     ASSERT_TRUE(addin) << ::GetLastError();
     ASSERT_EQ(InitializePlugin(), TRUE);
     const HWND agent = Testing::WaitForWindowTitled(kAgentTitle);
@@ -158,13 +158,12 @@ TEST_F(AddinInWine, CopyDataFromTheAgent_OnlyAWholeFlaggedRecordAsksToDeleteAllS
     copy.delivery = Orva::Sim::Delivery::CopyData;
     copy.copyDataId = 1078;
     copy.payload = {1, 2, 3};
-    EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
-    copy.payload.assign(17, 0);
     // The agent's copy-data is sent: the controller has handled it when the command returns.
     EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
     EXPECT_EQ(LogText().find(deletion), std::string::npos);
     EXPECT_NE(Controller(), nullptr);
 
+    copy.payload.assign(17, 0);
     copy.payload[16] = 1;
     EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
     EXPECT_TRUE(LogShows(deletion));

@@ -14,6 +14,7 @@
 #include "support/TestWindow_win.h"
 #include "support/fakes/platform/FakeClock.h"
 #include "support/fakes/platform/FakeProcessContext.h"
+#include "support/fakes/platform/JournalDebuggerOutput.h"
 
 namespace Orva::Testing {
 
@@ -22,19 +23,6 @@ struct ControllerMessageRecord {
     WPARAM wParam;
     LPARAM lParam;
     bool operator==(const ControllerMessageRecord&) const = default;
-};
-
-// Keeps each debug-log line, without its head.
-class LogLines final : public ZelCommon::Platform::IDebuggerOutput {
-public:
-    void Write(const std::wstring& text) override {
-        std::wstring line = text.size() >= 34 ? text.substr(34) : text;
-        if (!line.empty() && line.back() == L'\n') {
-            line.pop_back();
-        }
-        lines.push_back(line);
-    }
-    std::vector<std::wstring> lines;
 };
 
 inline std::vector<ControllerMessageRecord>& ReceivedMessages() {
@@ -56,10 +44,7 @@ inline LRESULT CALLBACK RecordingProcedure(HWND window, UINT message, WPARAM wPa
 // the relay of the system's window messaging in front of it.
 class HostEventRig {
 public:
-    // Without the controller, the window is there under another class.
-    explicit HostEventRig(bool withController = true)
-        : controller(withController ? Plugin::kControllerClassName.data() : L"OrvaNotTheController",
-                     L"", RecordingProcedure) {
+    HostEventRig() : controller(Plugin::kControllerClassName.data(), L"", RecordingProcedure) {
         ReceivedMessages().clear();
         log.OpenLog(folder.File(L"host.log"));
     }
@@ -76,7 +61,8 @@ public:
     TempFolder folder;
     ZelCommon::Fakes::FakeClock clock;
     ZelCommon::Fakes::FakeProcessContext process;
-    LogLines output;
+    ZelCommon::Fakes::FakeJournal journal;
+    ZelCommon::Fakes::JournalDebuggerOutput output{journal};
     ZelCommon::Library::DebugLog log{clock, process, output};
     Plugin::CHostEventRelay relay{ZelCommon::Platform::SystemWindowMessaging(), log};
 

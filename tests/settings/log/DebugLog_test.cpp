@@ -1,25 +1,27 @@
 #include "settings/log/DebugLog.h"
 #include "support/FileBytes.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <regex>
 #include <string>
 #include <thread>
 #include <utility>
 #include <vector>
 
+#include "common_src/platform/TextCodec.h"
 #include "support/fakes/platform/FakeClock.h"
 #include "support/fakes/platform/FakeProcessContext.h"
-#include "common_src/platform/TextCodec.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using Orva::Testing::ReadFileBytes;
+using Orva::Testing::TempFolder;
 using ZelCommon::Fakes::FakeClock;
 using ZelCommon::Fakes::FakeDebuggerOutput;
 using ZelCommon::Fakes::FakeProcessContext;
@@ -46,20 +48,8 @@ std::string OnDisk(std::string text) {
 class DebugLogTest : public ::testing::Test {
 protected:
     DebugLogTest() : m_clock(FakeClock::At(2024, 1, 31, 9, 5, 7, 42)) {
-        static std::atomic<int> counter{0};
-        m_folder = fs::temp_directory_path() /
-                   ("orva_debuglog_" + std::to_string(m_process.ProcessId()) + "_" +
-                    std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "_" +
-                    std::to_string(counter++) + "_" +
-                    std::to_string(std::hash<std::thread::id>{}(std::this_thread::get_id())));
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder);
         m_process.SetProcessId(0x51234);
         m_process.SetThreadId(0xA000B);
-    }
-    ~DebugLogTest() override {
-        std::error_code ignored;
-        fs::remove_all(m_folder, ignored);
     }
 
     std::wstring Base(const wchar_t* name) const { return (m_folder / name).wstring(); }
@@ -70,16 +60,29 @@ protected:
         }
         return files;
     }
+    // The lines of a log file, without their line ends.
+    std::vector<std::string> FileLines(const char* name) const {
+        std::string text = ReadFileBytes(m_folder / name);
+        std::erase(text, '\r');
+        std::vector<std::string> lines;
+        for (size_t start = 0; start < text.size();) {
+            const size_t end = text.find('\n', start);
+            EXPECT_NE(end, std::string::npos) << "unterminated last line";
+            lines.push_back(text.substr(start, end - start));
+            start = end == std::string::npos ? text.size() : end + 1;
+        }
+        return lines;
+    }
 
+    TempFolder m_temp;
+    const fs::path m_folder = m_temp.Root();
     FakeClock m_clock;
     FakeProcessContext m_process;
     FakeDebuggerOutput m_debugger;
     DebugLog m_log{m_clock, m_process, m_debugger};
-    fs::path m_folder;
 };
 
 const std::string kHead = "1234:000b 2024/01/31 09:05:07:042 ";
-const std::wstring kWideHead = L"1234:000b 2024/01/31 09:05:07:042 ";
 
 TEST_F(DebugLogTest, NeverOpened_WritesNothingAnywhere) {
     m_log.WriteLine(L"line\n");
@@ -97,99 +100,86 @@ TEST_F(DebugLogTest, OpenLog_CreatesTodaysDatedFile) {
     EXPECT_EQ(Files(), std::vector<fs::path>{"ORVAAgent.20240131.log"});
 }
 
-TEST_F(DebugLogTest, WriteLine_HeadThenTextExactly) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.WriteLine(L"hello\n");
-    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
-    m_process.SetProcessId(0xFFFFFFFF);
-    m_process.SetThreadId(0x10000);
-    m_log.WriteLine(L"second\n");
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + "hello\nffff:0000 2024/01/31 23:59:59:999 second\n"));
-    EXPECT_EQ(m_debugger.Texts(),
-              (std::vector<std::wstring>{kWideHead + L"hello\n",
-                                         L"ffff:0000 2024/01/31 23:59:59:999 second\n"}));
-}
+using Writes = std::function<void(DebugLog&, FakeClock&, FakeProcessContext&)>;
 
-TEST_F(DebugLogTest, WriteLine_NoByteOrderMarkAndAnsiBytes) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.WriteLine(L"caf\u00E9\n");
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + ZelCommon::Text::WideToAnsi(L"caf\u00E9") + "\n"));
-}
-
-TEST_F(DebugLogTest, Line499Characters_IsWrittenWhole) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    const std::wstring text = std::wstring(464, L'a') + L"\n";
-    ASSERT_EQ(kWideHead.size() + text.size(), 499u);
-    m_log.WriteLine(text);
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + std::string(464, 'a') + "\n"));
-    EXPECT_EQ(m_debugger.Texts().at(0), kWideHead + text);
-}
-
-TEST_F(DebugLogTest, Line500Characters_Keeps495AndEndsWithDotsAndN) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    const std::wstring text = std::wstring(465, L'a') + L"\n";
-    ASSERT_EQ(kWideHead.size() + text.size(), 500u);
-    m_log.WriteLine(text);
-    const std::string expected = kHead + std::string(495 - kHead.size(), 'a') + "...n";
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), expected);
-    EXPECT_EQ(m_debugger.Texts().at(0).size(), 499u);
-}
-
-TEST_F(DebugLogTest, VeryLongLine_IsCutTheSameWay) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.LogMessage(2, "x.cpp", 1, L"%s", std::wstring(5000, L'z'));
-    const std::string expected = kHead + "@@@ " + std::string(495 - kHead.size() - 4, 'z') + "...n";
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), expected);
-}
-
-struct LevelRow {
-    int level;
-    const char* prefix;
-};
-
-TEST_F(DebugLogTest, LogMessage_PrefixByLevelAndPlace) {
-    const LevelRow rows[] = {{0, "!!! "}, {1, "### "}, {2, "@@@ "}, {7, "??? "}, {-1, "??? "}};
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    std::string expected;
-    for (const LevelRow& row : rows) {
-        m_log.LogMessage(row.level, "C:\\work\\src\\settings\\SettingsStore.cpp", 120,
-                         L"value %d of %s", row.level, L"Debug");
-        expected += kHead + row.prefix + "value " + std::to_string(row.level) +
-                    " of Debug, at: SettingsStore.cpp line: 120\n";
+// Every line is "pid:tid date time " and the text, in the file (ANSI, no byte-order mark) and
+// for the debugger alike. A line of 500 characters or more with its head keeps 495 and ends with
+// "...n", without a line break.
+TEST(DebugLog, Lines_AreHeadAndTextInTheFileAndForTheDebugger) {
+    const auto write = [](std::wstring text) {
+        return [text](DebugLog& log, FakeClock&, FakeProcessContext&) { log.WriteLine(text); };
+    };
+    const struct {
+        const char* name;
+        Writes writes;
+        std::string written;
+    } cases[] = {
+        {"head then text",
+         [](DebugLog& log, FakeClock& clock, FakeProcessContext& process) {
+             log.WriteLine(L"hello\n");
+             clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
+             process.SetProcessId(0xFFFFFFFF);
+             process.SetThreadId(0x10000);
+             log.WriteLine(L"second\n");
+         },
+         kHead + "hello\nffff:0000 2024/01/31 23:59:59:999 second\n"},
+        {"ANSI", write(L"caf\u00E9\n"), kHead + ZelCommon::Text::WideToAnsi(L"caf\u00E9") + "\n"},
+        {"499 characters", write(std::wstring(464, L'a') + L"\n"),
+         kHead + std::string(464, 'a') + "\n"},
+        {"500 characters", write(std::wstring(465, L'a') + L"\n"),
+         kHead + std::string(495 - kHead.size(), 'a') + "...n"},
+        {"a formatted message of 5000",
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             log.LogMessage(2, "x.cpp", 1, L"%s", std::wstring(5000, L'z'));
+         },
+         kHead + "@@@ " + std::string(495 - kHead.size() - 4, 'z') + "...n"},
+        {"level prefixes and source file names",
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             log.LogMessage(0, "C:\\work\\src\\settings\\SettingsStore.cpp", 120, L"value %d", 0);
+             log.LogMessage(1, "C:\\work\\src\\settings\\SettingsStore.cpp", 120, L"value %d", 1);
+             log.LogMessage(2, "/work/main/src/plugin/ToolBarWnd.cpp", 120, L"value %d", 2);
+             log.LogMessage(7, "SettingsStore.cpp", 120, L"value %d", 7);
+             log.LogMessage(-1, "SettingsStore.cpp", 120, L"value %d", -1);
+         },
+         kHead + "!!! value 0, at: SettingsStore.cpp line: 120\n" + kHead +
+             "### value 1, at: SettingsStore.cpp line: 120\n" + kHead +
+             "@@@ value 2, at: ToolBarWnd.cpp line: 120\n" + kHead +
+             "??? value 7, at: SettingsStore.cpp line: 120\n" + kHead +
+             "??? value -1, at: SettingsStore.cpp line: 120\n"},
+        {"LogText adds a line break only when missing",
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             log.LogText(L"@@@ %s  IN", L"CToolBarWnd::OnBuildUI");
+             log.LogText(L"######the nPos = %d!\n", 3);
+             log.LogText(L"");
+         },
+         kHead + "@@@ CToolBarWnd::OnBuildUI  IN\n" + kHead + "######the nPos = 3!\n" + kHead +
+             "\n"},
+        {"scope tracer",
+         [](DebugLog& log, FakeClock&, FakeProcessContext&) {
+             ScopeTracer tracer(L"CToolBarWnd::OnCreate", "src\\plugin\\ToolBarWnd.cpp", 88, log);
+             log.WriteLine(L"body\n");
+         },
+         kHead + " ==> [CToolBarWnd::OnCreate] in, at: ToolBarWnd.cpp line: 88\n" + kHead +
+             "body\n" + kHead + " <== [CToolBarWnd::OnCreate] out, at: ToolBarWnd.cpp line: 88\n"},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        TempFolder folder;
+        FakeClock clock(FakeClock::At(2024, 1, 31, 9, 5, 7, 42));
+        FakeProcessContext process;
+        process.SetProcessId(0x51234);
+        process.SetThreadId(0xA000B);
+        FakeDebuggerOutput debugger;
+        DebugLog log{clock, process, debugger};
+        log.OpenLog((folder.Root() / "ORVAAgent.log").wstring());
+        each.writes(log, clock, process);
+        EXPECT_EQ(ReadFileBytes(folder.Root() / "ORVAAgent.20240131.log"), OnDisk(each.written));
+        std::wstring shown;
+        for (const std::wstring& text : debugger.Texts()) {
+            shown += text;
+        }
+        EXPECT_EQ(OnDisk(ZelCommon::Text::WideToAnsi(shown)), OnDisk(each.written));
     }
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), OnDisk(expected));
-}
-
-TEST_F(DebugLogTest, LogMessage_UnixSourcePath_KeepsFileName) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.LogMessage(0, "/work/main/src/plugin/ToolBarWnd.cpp", 7, L"XXX failed");
-    EXPECT_EQ(m_debugger.Texts().at(0),
-              kWideHead + L"!!! XXX failed, at: ToolBarWnd.cpp line: 7\n");
-}
-
-TEST_F(DebugLogTest, LogText_AddsLineBreakOnlyWhenMissing) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.LogText(L"@@@ %s  IN", L"CToolBarWnd::OnBuildUI");
-    m_log.LogText(L"######the nPos = %d!\n", 3);
-    m_log.LogText(L"");
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + "@@@ CToolBarWnd::OnBuildUI  IN\n" + kHead + "######the nPos = 3!\n" +
-                     kHead + "\n"));
-}
-
-TEST_F(DebugLogTest, ScopeTracer_WritesInAndOutLines) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    {
-        ScopeTracer tracer(L"CToolBarWnd::OnCreate", "src\\plugin\\ToolBarWnd.cpp", 88, m_log);
-        m_log.WriteLine(L"body\n");
-    }
-    EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
-              OnDisk(kHead + " ==> [CToolBarWnd::OnCreate] in, at: ToolBarWnd.cpp line: 88\n" +
-                     kHead + "body\n" + kHead +
-                     " <== [CToolBarWnd::OnCreate] out, at: ToolBarWnd.cpp line: 88\n"));
 }
 
 // Checks whether this process still holds the file open.
@@ -243,12 +233,6 @@ TEST_F(DebugLogTest, NewDaysFileCannotOpen_LogGoesOffWithoutWriting) {
     EXPECT_EQ(m_debugger.Texts().size(), 1u);
 }
 
-TEST_F(DebugLogTest, BasePathWithoutDot_DateGoesBeforeLastCharacter) {
-    m_log.OpenLog(Base(L"ORVAAgent"));
-    m_log.WriteLine(L"x\n");
-    EXPECT_EQ(Files(), std::vector<fs::path>{"ORVAAgen.20240131t"});
-}
-
 TEST_F(DebugLogTest, OpenFails_LogStaysOffAndSilent) {
     m_log.OpenLog((m_folder / "missing" / "ORVAAgent.log").wstring());
     m_log.WriteLine(L"x\n");
@@ -275,30 +259,20 @@ TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {
     for (std::thread& thread : threads) {
         thread.join();
     }
-    std::string text = ReadFileBytes(m_folder / "ORVAAgent.20240131.log");
-#ifdef _WIN32
-    std::erase(text, '\r');
-#endif
     const std::regex shape(
         "1234:000b 2024/01/31 09:05:07:042 @@@ T([0-7]) N([0-9]{3}) ([a-h]+), at: Worker.cpp "
         "line: 5");
     std::vector<int> counts(kThreads, 0);
-    size_t start = 0;
-    int lines = 0;
-    while (start < text.size()) {
-        const size_t end = text.find('\n', start);
-        ASSERT_NE(end, std::string::npos);
-        const std::string line = text.substr(start, end - start);
+    const std::vector<std::string> lines = FileLines("ORVAAgent.20240131.log");
+    for (const std::string& line : lines) {
         std::smatch match;
         ASSERT_TRUE(std::regex_match(line, match, shape)) << line;
         const int t = std::stoi(match[1]);
         EXPECT_EQ(std::stoi(match[2]), counts[static_cast<size_t>(t)]++);
         EXPECT_EQ(match[3].str(),
                   std::string(static_cast<size_t>(100 + t * 30), static_cast<char>('a' + t)));
-        ++lines;
-        start = end + 1;
     }
-    EXPECT_EQ(lines, kThreads * kLines);
+    EXPECT_EQ(lines.size(), static_cast<size_t>(kThreads * kLines));
     EXPECT_EQ(m_debugger.Texts().size(), static_cast<size_t>(kThreads * kLines));
 }
 
@@ -329,20 +303,11 @@ TEST_F(DebugLogTest, WritersAcrossMidnight_EachLineLandsInTheFileOfItsOwnDate) {
     size_t total = 0;
     for (const auto& [file, date] : {std::pair{"ORVAAgent.20240131.log", "2024/01/31"},
                                      std::pair{"ORVAAgent.20240201.log", "2024/02/01"}}) {
-        std::string text = ReadFileBytes(m_folder / file);
-#ifdef _WIN32
-        std::erase(text, '\r');
-#endif
-        size_t start = 0;
-        while (start < text.size()) {
-            const size_t end = text.find('\n', start);
-            ASSERT_NE(end, std::string::npos);
-            const std::string line = text.substr(start, end - start);
+        for (const std::string& line : FileLines(file)) {
             std::smatch match;
             ASSERT_TRUE(std::regex_match(line, match, shape)) << line;
             EXPECT_EQ(match[1].str(), date) << file;
             ++total;
-            start = end + 1;
         }
     }
     EXPECT_EQ(total, m_debugger.Texts().size());
@@ -377,13 +342,6 @@ TEST(DebugLogFormatWhere, FunctionMessageFileAndLine) {
         FormatWhere(L"CSettings::Load", L"cannot read", "C:\\src\\settings\\Settings.cpp", 42),
         L"CSettings::Load() - cannot read [Settings.cpp(42)]");
     EXPECT_EQ(FormatWhere(L"f", L"", "plain.cpp", 0), L"f() -  [plain.cpp(0)]");
-}
-
-TEST(DebugLogHiddenFunctions, FlagFollowsSetter) {
-    ZelCommon::Library::SetHiddenFunctionsEnabled(true);
-    EXPECT_TRUE(ZelCommon::Library::HiddenFunctionsEnabled());
-    ZelCommon::Library::SetHiddenFunctionsEnabled(false);
-    EXPECT_FALSE(ZelCommon::Library::HiddenFunctionsEnabled());
 }
 
 }  // namespace

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "ProbeLog.h"
+#include "common_src/platform/WideFormat.h"
 
 namespace Orva::Settings {
 namespace {
@@ -101,46 +104,41 @@ public:
     }
 };
 
-TEST(OsVersion, GetOSVersion_Windows10Amd64Client_Gives11AndLogs) {
-    Testing::ProbeLog log;
-    ScriptedOsInfo os;
-    os.record = OsVersionRecord{2, 10, 0, kWorkstation};
-    os.architecture = kAmd64;
-    const uint32_t id = CComUtilSet::GetOSVersion(os, log.Log());
-    EXPECT_EQ(id, 11u);
-    EXPECT_TRUE(IsWindows64Id(id));
-    EXPECT_EQ(log.Lines(),
-              std::vector<std::wstring>{
-                  L"@@@ CComUtilSet::GetOSVersion() - osvi.dwPlatformId = 2, osvi.dwMajorVersion "
-                  L"= 10, osvi.dwMinorVersion = 0\n"});
-}
-
-TEST(OsVersion, GetOSVersion_QueryFails_GivesZeroWithoutLogging) {
-    Testing::ProbeLog log;
-    ScriptedOsInfo os;
-    os.succeeds = false;
-    EXPECT_EQ(CComUtilSet::GetOSVersion(os, log.Log()), 0u);
-    EXPECT_TRUE(log.Lines().empty());
-    EXPECT_EQ(os.architectureQueries, 0);
-}
-
-TEST(OsVersion, GetOSVersion_Server2003R2_AsksTheMetric) {
-    Testing::ProbeLog log;
-    ScriptedOsInfo os;
-    os.record = OsVersionRecord{2, 5, 2, kServer};
-    os.serverR2 = 1;
-    EXPECT_EQ(CComUtilSet::GetOSVersion(os, log.Log()), 8u);
-    EXPECT_EQ(os.metricQueries, 1);
-}
-
-TEST(OsVersion, GetOSVersion_Windows98_NeedsNoArchitecture) {
-    Testing::ProbeLog log;
-    ScriptedOsInfo os;
-    os.record = OsVersionRecord{1, 4, 10, 0};
-    os.architecture = kAmd64;
-    EXPECT_EQ(CComUtilSet::GetOSVersion(os, log.Log()), 2u);
-    EXPECT_EQ(os.architectureQueries, 0);
-    EXPECT_EQ(os.metricQueries, 0);
+// The probe asks for the architecture and the R2 metric only where they decide the answer (the
+// calls do not exist on the oldest systems), and logs the version it was told.
+TEST(OsVersion, GetOSVersion_AsksOnlyWhatTheVersionNeedsAndLogsIt) {
+    const struct {
+        const char* name;
+        std::optional<OsVersionRecord> record;
+        uint32_t id;
+        int architectureQueries;
+        int metricQueries;
+    } cases[] = {
+        {"query fails", std::nullopt, 0, 0, 0},
+        {"Windows 98", OsVersionRecord{1, 4, 10, 0}, 2, 0, 0},
+        {"Windows 10 client", OsVersionRecord{2, 10, 0, kWorkstation}, 11, 1, 0},
+        {"Server 2003 R2", OsVersionRecord{2, 5, 2, kServer}, 8, 1, 1},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        Testing::ProbeLog log;
+        ScriptedOsInfo os;
+        os.succeeds = each.record.has_value();
+        os.record = each.record.value_or(OsVersionRecord{});
+        os.architecture = kAmd64;
+        os.serverR2 = 1;
+        EXPECT_EQ(CComUtilSet::GetOSVersion(os, log.Log()), each.id);
+        EXPECT_EQ(os.architectureQueries, each.architectureQueries);
+        EXPECT_EQ(os.metricQueries, each.metricQueries);
+        std::vector<std::wstring> lines;
+        if (each.record) {
+            lines.push_back(ZelCommon::Text::Format(
+                L"@@@ CComUtilSet::GetOSVersion() - osvi.dwPlatformId = %u, osvi.dwMajorVersion = "
+                L"%u, osvi.dwMinorVersion = %u\n",
+                each.record->platformId, each.record->majorVersion, each.record->minorVersion));
+        }
+        EXPECT_EQ(log.Lines(), lines);
+    }
 }
 
 }  // namespace

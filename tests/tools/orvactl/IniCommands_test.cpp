@@ -22,27 +22,34 @@ protected:
     std::wstring file = temp.File(L"ORVA_WLM.ini");
 };
 
-TEST_F(IniCommandsTest, Get_PrintsTheValueAloneOnOneLine) {
-    const auto run = RunTool({L"ini", L"get", file, L"General", L"PurgeDays"});
-    EXPECT_EQ(run.exitCode, kExitOk);
-    EXPECT_EQ(run.out, L"30\n");
-    EXPECT_EQ(run.err, L"");
-}
-
-TEST_F(IniCommandsTest, GetMissingKey_PrintsTheDefaultOrAnEmptyLine) {
-    EXPECT_EQ(RunTool({L"ini", L"get", file, L"General", L"Nope", L"fallback"}).out, L"fallback\n");
-    EXPECT_EQ(RunTool({L"ini", L"get", file, L"General", L"Nope"}).out, L"\n");
-}
-
-TEST_F(IniCommandsTest, Get_IgnoresCaseOfSectionAndKey) {
-    EXPECT_EQ(RunTool({L"ini", L"get", file, L"GENERAL", L"purgedays"}).out, L"30\n");
-}
-
-TEST_F(IniCommandsTest, GetInt_ReadsAsTheProfileIntegerDoes) {
-    EXPECT_EQ(RunTool({L"ini", L"getint", file, L"General", L"PurgeDays"}).out, L"30\n");
-    EXPECT_EQ(RunTool({L"ini", L"getint", file, L"Wexor", L"EnableWexor"}).out, L"-3\n");
-    EXPECT_EQ(RunTool({L"ini", L"getint", file, L"General", L"Nope", L"180"}).out, L"180\n");
-    EXPECT_EQ(RunTool({L"ini", L"getint", file, L"General", L"Nope"}).out, L"0\n");
+// Each answer alone on its line; reads find names whatever their case, a missing key gives the
+// default (or nothing), and getint reads as the profile integer does.
+TEST_F(IniCommandsTest, Commands_PrintTheirAnswerOneALine) {
+    const struct {
+        std::vector<std::wstring> args;
+        std::wstring out;
+    } cases[] = {
+        {{L"get", file, L"General", L"PurgeDays"}, L"30\n"},
+        {{L"get", file, L"GENERAL", L"purgedays"}, L"30\n"},
+        {{L"get", file, L"General", L"Nope", L"fallback"}, L"fallback\n"},
+        {{L"get", file, L"General", L"Nope"}, L"\n"},
+        {{L"getint", file, L"General", L"PurgeDays"}, L"30\n"},
+        {{L"getint", file, L"Wexor", L"EnableWexor"}, L"-3\n"},
+        {{L"getint", file, L"General", L"Nope", L"180"}, L"180\n"},
+        {{L"getint", file, L"General", L"Nope"}, L"0\n"},
+        {{L"sections", file}, L"General\nWexor\n"},
+        {{L"keys", file, L"General"}, L"PurgeDays\nDebug\n"},
+        {{L"keys", file, L"Missing"}, L""},
+    };
+    for (const auto& each : cases) {
+        std::vector<std::wstring> args{L"ini"};
+        args.insert(args.end(), each.args.begin(), each.args.end());
+        SCOPED_TRACE(testing::PrintToString(each.args));
+        const auto run = RunTool(args);
+        EXPECT_EQ(run.exitCode, kExitOk);
+        EXPECT_EQ(run.out, each.out);
+        EXPECT_EQ(run.err, L"");
+    }
 }
 
 TEST_F(IniCommandsTest, GetIntWithWordForDefault_IsAUsageError) {
@@ -52,29 +59,12 @@ TEST_F(IniCommandsTest, GetIntWithWordForDefault_IsAUsageError) {
     EXPECT_NE(run.err.find(L"ten"), std::wstring::npos);
 }
 
-TEST_F(IniCommandsTest, Set_KeepsUnicodeText) {
+TEST_F(IniCommandsTest, SetAndDelete_ChangeOnlyWhatTheyName) {
     ASSERT_EQ(RunTool({L"ini", L"set", file, L"General", L"CorpName", L"Søren Übel"}).exitCode,
               kExitOk);
     EXPECT_EQ(RunTool({L"ini", L"get", file, L"General", L"CorpName"}).out, L"Søren Übel\n");
-}
-
-TEST_F(IniCommandsTest, Sections_ListsOneNameALineInFileOrder) {
-    const auto run = RunTool({L"ini", L"sections", file});
-    EXPECT_EQ(run.exitCode, kExitOk);
-    EXPECT_EQ(run.out, L"General\nWexor\n");
-}
-
-TEST_F(IniCommandsTest, Keys_ListsOneNameALine) {
-    EXPECT_EQ(RunTool({L"ini", L"keys", file, L"General"}).out, L"PurgeDays\nDebug\n");
-    EXPECT_EQ(RunTool({L"ini", L"keys", file, L"Missing"}).out, L"");
-}
-
-TEST_F(IniCommandsTest, DeleteKey_RemovesOnlyThatKey) {
     EXPECT_EQ(RunTool({L"ini", L"delete", file, L"General", L"Debug"}).exitCode, kExitOk);
-    EXPECT_EQ(RunTool({L"ini", L"keys", file, L"General"}).out, L"PurgeDays\n");
-}
-
-TEST_F(IniCommandsTest, DeleteSection_RemovesTheWholeSection) {
+    EXPECT_EQ(RunTool({L"ini", L"keys", file, L"General"}).out, L"PurgeDays\nCorpName\n");
     EXPECT_EQ(RunTool({L"ini", L"delete", file, L"General"}).exitCode, kExitOk);
     EXPECT_EQ(RunTool({L"ini", L"sections", file}).out, L"Wexor\n");
 }
@@ -89,57 +79,46 @@ TEST_F(IniCommandsTest, ManyKeys_AreAllListed) {
     EXPECT_EQ(RunTool({L"ini", L"keys", file, L"General"}).out, expected);
 }
 
-struct BadArgs {
-    std::vector<std::wstring> args;
-    int exitCode;
-};
-
-class IniCommandsBadArgs : public testing::TestWithParam<BadArgs> {};
-
-TEST_P(IniCommandsBadArgs, ReportOnStandardErrorWithNothingOnStandardOutput) {
-    const auto run = RunTool(GetParam().args);
-    EXPECT_EQ(run.exitCode, GetParam().exitCode);
-    EXPECT_EQ(run.out, L"");
-    EXPECT_EQ(run.err.rfind(L"orvactl: ", 0), 0u) << "stderr: " << run.err.size();
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Usage, IniCommandsBadArgs,
-    testing::Values(BadArgs{{}, kExitUsage}, BadArgs{{L"ini"}, kExitUsage},
-                    BadArgs{{L"ini", L"frobnicate", L"f"}, kExitUsage},
-                    BadArgs{{L"ini", L"get", L"f", L"General"}, kExitUsage},
-                    BadArgs{{L"ini", L"get", L"f", L"S", L"K", L"D", L"extra"}, kExitUsage},
-                    BadArgs{{L"ini", L"set", L"f", L"S", L"K"}, kExitUsage},
-                    BadArgs{{L"ini", L"sections"}, kExitUsage},
-                    BadArgs{{L"ini", L"keys", L"f"}, kExitUsage}, BadArgs{{L"bogus"}, kExitUsage}));
-
-TEST(IniCommandsFiles, ReadingAMissingFile_Fails) {
-    Testing::TempFolder temp;
-    const auto run = RunTool({L"ini", L"get", temp.File(L"absent.ini"), L"General", L"Debug"});
-    EXPECT_EQ(run.exitCode, kExitFailure);
-    EXPECT_EQ(run.out, L"");
-    EXPECT_NE(run.err.find(L"absent.ini"), std::wstring::npos);
-}
-
-TEST(IniCommandsFiles, FileThatIsAFolder_FailsForReadingAndWriting) {
-    Testing::TempFolder temp;
-    for (const wchar_t* command : {L"sections", L"set"}) {
-        std::vector<std::wstring> args{L"ini", command, temp.Path()};
-        if (std::wstring(command) == L"set") {
-            args.insert(args.end(), {L"General", L"Debug", L"1"});
-        }
+TEST(IniCommandsBadArgs, UsageErrors_ReportOnStandardErrorWithNothingOnStandardOutput) {
+    const std::vector<std::vector<std::wstring>> cases = {
+        {},
+        {L"ini"},
+        {L"ini", L"frobnicate", L"f"},
+        {L"ini", L"get", L"f", L"General"},
+        {L"ini", L"get", L"f", L"S", L"K", L"D", L"extra"},
+        {L"ini", L"set", L"f", L"S", L"K"},
+        {L"ini", L"sections"},
+        {L"ini", L"keys", L"f"},
+        {L"bogus"},
+    };
+    for (const auto& args : cases) {
+        SCOPED_TRACE(testing::PrintToString(args));
         const auto run = RunTool(args);
-        EXPECT_EQ(run.exitCode, kExitFailure);
-        EXPECT_NE(run.err.find(L"folder"), std::wstring::npos);
+        EXPECT_EQ(run.exitCode, kExitUsage);
+        EXPECT_EQ(run.out, L"");
+        EXPECT_EQ(run.err.rfind(L"orvactl: ", 0), 0u);
     }
 }
 
-TEST(IniCommandsFiles, WritingIntoAMissingFolder_Fails) {
+TEST(IniCommandsFiles, FilesThatCannotBeUsed_FailNamingTheProblem) {
     Testing::TempFolder temp;
-    const auto run =
-        RunTool({L"ini", L"set", temp.Folder(L"nope") + L"x.ini", L"General", L"Debug", L"1"});
-    EXPECT_EQ(run.exitCode, kExitFailure);
-    EXPECT_NE(run.err.find(L"does not exist"), std::wstring::npos);
+    const struct {
+        std::vector<std::wstring> args;
+        const wchar_t* said;
+    } cases[] = {
+        {{L"ini", L"get", temp.File(L"absent.ini"), L"General", L"Debug"}, L"absent.ini"},
+        {{L"ini", L"sections", temp.Path()}, L"folder"},
+        {{L"ini", L"set", temp.Path(), L"General", L"Debug", L"1"}, L"folder"},
+        {{L"ini", L"set", temp.Folder(L"nope") + L"x.ini", L"General", L"Debug", L"1"},
+         L"does not exist"},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::PrintToString(each.args));
+        const auto run = RunTool(each.args);
+        EXPECT_EQ(run.exitCode, kExitFailure);
+        EXPECT_EQ(run.out, L"");
+        EXPECT_NE(run.err.find(each.said), std::wstring::npos);
+    }
 }
 
 TEST(OrvactlHelp, ExplainsEveryCommand) {

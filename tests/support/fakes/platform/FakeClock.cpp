@@ -44,12 +44,8 @@ LocalTime FakeClock::Now() const {
 
 void FakeClock::Sleep(uint32_t milliseconds) {
     std::lock_guard lock(m_mutex);
-    m_sleeps.push_back(milliseconds);
     if (m_journal != nullptr) {
         m_journal->Add(L"sleep " + std::to_wstring(milliseconds));
-    }
-    if (m_advanceOnSleep) {
-        m_now = FromTimePoint(ToTimePoint(m_now) + std::chrono::milliseconds(milliseconds));
     }
 }
 
@@ -67,16 +63,6 @@ void FakeClock::Advance(uint64_t milliseconds) {
     std::lock_guard lock(m_mutex);
     m_now = FromTimePoint(ToTimePoint(m_now) +
                           std::chrono::milliseconds(static_cast<int64_t>(milliseconds)));
-}
-
-void FakeClock::SetAdvanceOnSleep(bool advance) {
-    std::lock_guard lock(m_mutex);
-    m_advanceOnSleep = advance;
-}
-
-std::vector<uint32_t> FakeClock::Sleeps() const {
-    std::lock_guard lock(m_mutex);
-    return m_sleeps;
 }
 
 LocalTime FakeClock::At(uint16_t year, uint16_t month, uint16_t day, uint16_t hour, uint16_t minute,

@@ -2,15 +2,13 @@
 
 #include <cstdint>
 #include <mutex>
-#include <vector>
 
-#include "support/fakes/platform/FakeJournal.h"
 #include "common_src/platform/Clock.h"
+#include "support/fakes/platform/FakeJournal.h"
 
 namespace ZelCommon::Fakes {
 
-// A clock that stands still until a test sets or advances it; Sleep returns at once and is
-// recorded (and, when asked, moves the clock on by the time slept).
+// A clock that stands still until a test sets or advances it; Sleep returns at once.
 class FakeClock final : public Platform::IClock {
 public:
     FakeClock();
@@ -22,8 +20,6 @@ public:
     void Set(const Platform::LocalTime& now);
     // Moves the clock forward, across midnight, month and year ends.
     void Advance(uint64_t milliseconds);
-    void SetAdvanceOnSleep(bool advance);
-    std::vector<uint32_t> Sleeps() const;
     // Also writes each sleep into `journal` as "sleep <milliseconds>".
     void SetJournal(FakeJournal* journal);
 
@@ -34,8 +30,6 @@ public:
 private:
     mutable std::mutex m_mutex;
     Platform::LocalTime m_now;
-    std::vector<uint32_t> m_sleeps;
-    bool m_advanceOnSleep = false;
     FakeJournal* m_journal = nullptr;
 };
 

@@ -19,7 +19,6 @@ public:
 
     void SetSystemDefaultLcid(uint32_t lcid) { m_systemLcid = lcid; }
     void SetName(uint32_t lcid, std::wstring name);
-    void Forget(uint32_t lcid) { m_names.erase(lcid); }
 
 private:
     uint32_t m_systemLcid = Platform::kLcidEnglishUnitedStates;

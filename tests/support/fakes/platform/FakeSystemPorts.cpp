@@ -24,7 +24,6 @@ void FakeEvent::Set() {
 
 bool FakeEvent::Wait(uint32_t milliseconds) {
     Note(L"event wait " + std::to_wstring(milliseconds));
-    m_waits.push_back(milliseconds);
     const bool signalled = m_set || m_signalDuringWaits;
     m_set = false;
     return signalled;

@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "support/fakes/platform/FakeJournal.h"
 #include "common_src/platform/Event.h"
 #include "common_src/platform/Keyboard.h"
 #include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/WindowProcedureHook.h"
+#include "support/fakes/platform/FakeJournal.h"
 
 namespace ZelCommon::Fakes {
 
@@ -58,13 +58,10 @@ public:
     bool Wait(uint32_t milliseconds) override;
 
     void SignalDuringWaits(bool signals) { m_signalDuringWaits = signals; }
-    bool IsSet() const { return m_set; }
-    const std::vector<uint32_t>& Waits() const { return m_waits; }
 
 private:
     bool m_set = false;
     bool m_signalDuringWaits = false;
-    std::vector<uint32_t> m_waits;
 };
 
 // Window procedures kept per window; the add-in's hook is a recognisable value.
@@ -101,15 +98,8 @@ class FakeShellOpen final : public Platform::IShellOpen, public JournalNotes {
 public:
     bool OpenAddress(const std::wstring& address) override {
         Note(L"open " + address);
-        m_addresses.push_back(address);
-        return m_succeeds;
+        return true;
     }
-    void SetResult(bool succeeds) { m_succeeds = succeeds; }
-    const std::vector<std::wstring>& Addresses() const { return m_addresses; }
-
-private:
-    bool m_succeeds = true;
-    std::vector<std::wstring> m_addresses;
 };
 
 class FakeKeyboard final : public Platform::IKeyboard {

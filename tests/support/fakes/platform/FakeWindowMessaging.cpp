@@ -1,7 +1,6 @@
 #include "support/fakes/platform/FakeWindowMessaging.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "common_src/platform/WideFormat.h"
 
@@ -132,15 +131,6 @@ void FakeWindowMessaging::SetHandler(WindowHandle window, Handler handler) {
 std::vector<FakeWindowMessaging::Message> FakeWindowMessaging::Messages() const {
     std::lock_guard lock(m_mutex);
     return m_messages;
-}
-
-std::vector<FakeWindowMessaging::Message> FakeWindowMessaging::MessagesTo(
-    WindowHandle window) const {
-    std::lock_guard lock(m_mutex);
-    std::vector<Message> result;
-    std::copy_if(m_messages.begin(), m_messages.end(), std::back_inserter(result),
-                 [&](const Message& m) { return m.window == window; });
-    return result;
 }
 
 void FakeWindowMessaging::ClearMessages() {

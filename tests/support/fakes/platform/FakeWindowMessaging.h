@@ -9,8 +9,8 @@
 #include <tuple>
 #include <vector>
 
-#include "support/fakes/platform/FakeJournal.h"
 #include "common_src/platform/WindowMessaging.h"
+#include "support/fakes/platform/FakeJournal.h"
 
 namespace ZelCommon::Fakes {
 
@@ -54,7 +54,6 @@ public:
     void FailPosts(Platform::WindowHandle window, unsigned count);
 
     std::vector<Message> Messages() const;
-    std::vector<Message> MessagesTo(Platform::WindowHandle window) const;
     void ClearMessages();
     unsigned LookupCount() const;
     // Also writes each post and send into `journal` as "post|send <title, else class, else

@@ -6,7 +6,6 @@ namespace ZelCommon::Fakes {
 
 void FakeControllerWindow::MakeTopMost() {
     Note(L"window topmost");
-    m_topMost = true;
 }
 
 bool FakeControllerWindow::SetTimer(uintptr_t id, uint32_t milliseconds) {
@@ -22,7 +21,6 @@ bool FakeControllerWindow::KillTimer(uintptr_t id) {
 
 void FakeHostObjects::Record(const std::wstring& call) {
     Note(L"host " + call);
-    m_calls.push_back(call);
 }
 
 void FakeHostObjects::MaybeThrow() const {
@@ -44,14 +42,12 @@ bool FakeHostObjects::CreateInitObject() {
 
 bool FakeHostObjects::AdviseInitSink() {
     Record(L"AdviseInitSink");
-    m_initSink = m_initObject;
-    return m_initSink;
+    return m_initObject;
 }
 
 // As the real objects do, our side lets go of the sink before the host may refuse.
 void FakeHostObjects::UnadviseInitSink() {
     Record(L"UnadviseInitSink");
-    m_initSink = false;
     MaybeThrow();
 }
 
@@ -68,13 +64,11 @@ bool FakeHostObjects::CreateApiObject() {
 
 bool FakeHostObjects::AdviseApiSink() {
     Record(L"AdviseApiSink");
-    m_apiSink = m_apiObject;
-    return m_apiSink;
+    return m_apiObject;
 }
 
 void FakeHostObjects::UnadviseApiSink() {
     Record(L"UnadviseApiSink");
-    m_apiSink = false;
     m_apiObject = false;
     MaybeThrow();
 }
@@ -107,7 +101,6 @@ void FakeRibbonCommands::SetOnOffCaption(bool enabled) {
 
 void FakeRibbonCommands::EnableButtons(bool enable) {
     Note(Text::Format(L"ribbon buttons %d", enable));
-    m_buttonsEnabled = enable;
 }
 
 void FakeClassicBand::OnBuildUserInterface(uintptr_t wParam, intptr_t lParam) {
@@ -128,7 +121,6 @@ void FakeClassicBand::TearDown() {
 void FakeClassicBand::CreateDeferredObject() {
     Note(L"classic deferred");
     m_deferred = true;
-    ++m_deferredCreations;
 }
 
 int FakeSpamFolder::CreateSpamMailFolder(bool force) {

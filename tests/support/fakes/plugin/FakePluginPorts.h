@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "support/fakes/platform/FakeSystemPorts.h"
 #include "plugin/controller/ControllerParts.h"
 #include "plugin/controller/ControllerWindow.h"
-#include "plugin/host/HostObjects.h"
 #include "plugin/controller/MailClientVersion.h"
+#include "plugin/host/HostObjects.h"
+#include "support/fakes/platform/FakeSystemPorts.h"
 
 namespace ZelCommon::Fakes {
 
@@ -23,11 +23,9 @@ public:
     bool SetTimer(uintptr_t id, uint32_t milliseconds) override;
     bool KillTimer(uintptr_t id) override;
 
-    bool IsTopMost() const { return m_topMost; }
     bool HasTimer(uintptr_t id) const { return m_timers.contains(id); }
 
 private:
-    bool m_topMost = false;
     std::map<uintptr_t, uint32_t> m_timers;
 };
 
@@ -59,21 +57,14 @@ public:
         m_throwText = std::move(text);
     }
 
-    const std::vector<std::wstring>& Calls() const { return m_calls; }
-    bool InitSinkAdvised() const { return m_initSink; }
-    bool ApiSinkAdvised() const { return m_apiSink; }
-
 private:
     void Record(const std::wstring& call);
     void MaybeThrow() const;
 
-    std::vector<std::wstring> m_calls;
     bool m_failInit = false;
     bool m_failApi = false;
     bool m_initObject = false;
-    bool m_initSink = false;
     bool m_apiObject = false;
-    bool m_apiSink = false;
     Throw m_throw = Throw::Nothing;
     std::string m_throwText;
 };
@@ -98,11 +89,9 @@ public:
 
     Orva::Plugin::RibbonIds ids{101, 102, 103, 104, 105, 106, 107, 108, 109};
     const std::wstring& OnOffCaption() const { return m_caption; }
-    bool ButtonsEnabled() const { return m_buttonsEnabled; }
 
 private:
     std::wstring m_caption;
-    bool m_buttonsEnabled = true;
 };
 
 // The classic band: records "classic build <w> <l>", "classic refresh", "classic teardown",
@@ -118,13 +107,11 @@ public:
     void CreateDeferredObject() override;
 
     void SetRebarPresent(bool present) { m_rebarPresent = present; }
-    unsigned DeferredCreations() const { return m_deferredCreations; }
 
 private:
     bool m_rebarPresent = false;
     bool m_built = false;
     bool m_deferred = false;
-    unsigned m_deferredCreations = 0;
 };
 
 // The mail store's spam-folder operations; records "store ..." lines.
