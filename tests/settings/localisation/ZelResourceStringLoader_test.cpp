@@ -80,53 +80,57 @@ TEST_F(ZelResourceStringLoaderTest, EmptySection_FailsWithoutLookingForATable) {
     EXPECT_THAT(TakeLines(), ElementsAre(L"*** Error: Length of _tszSectionName is zero."));
 }
 
-TEST_F(ZelResourceStringLoaderTest, NoTableForLocale_UsesThePrimaryLanguagesTable) {
-    locale.SetSystemDefaultLcid(0x0807);  // de-CH
+// The fall-back chain: the system locale's table, else the primary language's, else English.
+// `from` is the log line where the chain starts; the lines before it name the folders.
+TEST_F(ZelResourceStringLoaderTest, NoTableForLocale_FallsBackAlongTheChain) {
+    struct ChainCase {
+        uint32_t lcid;
+        const wchar_t* locale;
+        const wchar_t* text;
+        size_t lineCount;
+        std::vector<std::wstring> from;
+    };
+    const ChainCase cases[] = {
+        {0x0807,  // de-CH: the primary language's table
+         L"de-DE",
+         L"Gut",
+         6,
+         {L"Start mapping primary language ID due to <de-CH> StringTable is not existed: [" +
+              TableOf(L"de-CH") + L"]",
+          L"Primary language mapped result: [de-DE]",
+          L"Successfully loaded MUI stringTable. Lang: [de-DE], Section: [ORVA_WLM], File: [" +
+              TableOf(L"de-DE") + L"]"}},
+        {0x0411,  // ja-JP: neither its own nor its primary language's table, so English
+         L"en-US",
+         L"OK",
+         8,
+         {L"Start mapping primary language ID due to <ja-JP> StringTable is not existed: [" +
+              TableOf(L"ja-JP") + L"]",
+          L"Primary language mapped result: [ja-JP]",
+          L"<ja-JP> Language not support!!\n Mapped primary language's StringTable is still not "
+          L"existed: [" +
+              TableOf(L"ja-JP") + L"]",
+          L"Using default language <en-US>: [" + TableOf(L"en-US") + L"]"}},
+    };
     WriteTable(L"de-DE", L"IDS_OK", L"Gut");
     WriteTable(L"en-US", L"IDS_OK", L"OK");
-    ZelResourceStringLoader loader(Services());
-    TakeLines();
+    for (const ChainCase& test : cases) {
+        SCOPED_TRACE(test.locale);
+        locale.SetSystemDefaultLcid(test.lcid);
+        ZelResourceStringLoader loader(Services());
+        TakeLines();
 
-    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
+        ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
 
-    EXPECT_EQ(loader.LocaleName(), L"de-DE");
-    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"Gut");
-    const std::vector<std::wstring> lines = TakeLines();
-    ASSERT_EQ(lines.size(), 6u);
-    EXPECT_EQ(lines[2],
-              L"Start mapping primary language ID due to <de-CH> StringTable is not "
-              L"existed: [" +
-                  TableOf(L"de-CH") + L"]");
-    EXPECT_EQ(lines[3], L"Primary language mapped result: [de-DE]");
-    EXPECT_EQ(lines[4],
-              L"Successfully loaded MUI stringTable. Lang: [de-DE], Section: "
-              L"[ORVA_WLM], File: [" +
-                  TableOf(L"de-DE") + L"]");
-}
-
-TEST_F(ZelResourceStringLoaderTest, NeitherLocaleNorPrimaryLanguage_FallsBackToEnglish) {
-    locale.SetSystemDefaultLcid(0x0411);  // ja-JP
-    WriteTable(L"de-DE", L"IDS_OK", L"Gut");
-    WriteTable(L"en-US", L"IDS_OK", L"OK");
-    ZelResourceStringLoader loader(Services());
-    TakeLines();
-
-    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
-
-    EXPECT_EQ(loader.LocaleName(), L"en-US");
-    EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"OK");
-    const std::vector<std::wstring> lines = TakeLines();
-    ASSERT_EQ(lines.size(), 8u);
-    EXPECT_EQ(lines[2],
-              L"Start mapping primary language ID due to <ja-JP> StringTable is not "
-              L"existed: [" +
-                  TableOf(L"ja-JP") + L"]");
-    EXPECT_EQ(lines[3], L"Primary language mapped result: [ja-JP]");
-    EXPECT_EQ(lines[4],
-              L"<ja-JP> Language not support!!\n Mapped primary language's StringTable "
-              L"is still not existed: [" +
-                  TableOf(L"ja-JP") + L"]");
-    EXPECT_EQ(lines[5], L"Using default language <en-US>: [" + TableOf(L"en-US") + L"]");
+        EXPECT_EQ(loader.LocaleName(), test.locale);
+        EXPECT_EQ(loader.LoadString(L"IDS_OK"), test.text);
+        const std::vector<std::wstring> lines = TakeLines();
+        ASSERT_EQ(lines.size(), test.lineCount);
+        EXPECT_EQ(std::vector<std::wstring>(
+                      lines.begin() + 2,
+                      lines.begin() + 2 + static_cast<std::ptrdiff_t>(test.from.size())),
+                  test.from);
+    }
 }
 
 TEST_F(ZelResourceStringLoaderTest, NoEnglishTableEither_FailsAndEveryLoadIsEmpty) {
