@@ -105,9 +105,10 @@ TEST(ListSetConcurrency, LoadDuringSaveSeesAWholeFile) {
             if (count != 10 && count != 2000) {
                 ++partial;
             }
-            // Like the agent, the reader lets go between reads: on Windows a file held open
-            // without a pause would refuse every rename and push the saves to write in place.
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            // Like the agent, the reader lets go between reads for longer than it reads: on
+            // Windows a file held open most of the time refuses the renames for longer than a
+            // save waits, and the save writes in place.
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
     });
     std::thread smallSaver([&] {

@@ -22,12 +22,14 @@ std::wstring TemporaryNameBeside(const std::wstring& path) {
            std::to_wstring(++counter) + L".tmp";
 }
 
-// Reads are short, so a refused rename is tried again for about 100 ms.
+// Reads are short, so a refused rename is tried again for about 100 ms. The budget is a time,
+// not a count of attempts: a sleep may last longer than asked on a busy machine.
 uint32_t RenameWithRetries(const std::wstring& from, const std::wstring& to) {
-    constexpr int kAttempts = 25;
-    for (int attempt = 1;; ++attempt) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(100);
+    for (;;) {
         const uint32_t error = FileSteps::RenameReplacing(from, to);
-        if (error == 0 || !WritesInPlaceAfter(error) || attempt == kAttempts) {
+        if (error == 0 || !WritesInPlaceAfter(error) ||
+            std::chrono::steady_clock::now() >= deadline) {
             return error;
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(4));
