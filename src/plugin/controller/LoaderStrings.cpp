@@ -1,5 +1,7 @@
 #include "plugin/controller/LoaderStrings.h"
 
+#include "settings/localisation/Placeholders.h"
+
 #pragma push_macro("LoadString")
 #undef LoadString
 
@@ -10,6 +12,14 @@ std::wstring CLoaderStrings::Load(const std::wstring& id) {
         m_state = m_loader.Initialize(kSection) ? TableState::Open : TableState::Failed;
     }
     return m_state == TableState::Open ? m_loader.LoadString(id) : std::wstring();
+}
+
+std::wstring CLoaderStrings::LoadShown(const std::wstring& id) {
+    const std::wstring text = Load(id);
+    if (m_state != TableState::Open) {
+        return text;
+    }
+    return Orva::Settings::ExpandPlaceholders(text, m_installFile, m_profile, m_loader);
 }
 
 void CLoaderStrings::Release() {

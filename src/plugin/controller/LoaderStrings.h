@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
+#include "common_src/ZelCommon/ProfileApi.h"
 #include "plugin/controller/ControllerParts.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 
@@ -14,15 +16,22 @@ class CLoaderStrings final : public ILocalisedStrings {
 public:
     static constexpr const wchar_t* kSection = L"ORVA_WLM";
 
-    explicit CLoaderStrings(ZelResourceStringLoader& loader) : m_loader(loader) {}
+    // The installation file and the profile functions name the branding that placeholders
+    // become.
+    CLoaderStrings(ZelResourceStringLoader& loader, std::wstring installFile,
+                   ZelCommon::Storage::IProfileApi& profile)
+        : m_loader(loader), m_installFile(std::move(installFile)), m_profile(profile) {}
 
     std::wstring Load(const std::wstring& id) override;
+    std::wstring LoadShown(const std::wstring& id) override;
     void Release() override;
 
 private:
     enum class TableState { NotTried, Open, Failed };
 
     ZelResourceStringLoader& m_loader;
+    std::wstring m_installFile;
+    ZelCommon::Storage::IProfileApi& m_profile;
     TableState m_state = TableState::NotTried;
 };
 

@@ -8,19 +8,6 @@ void CPendingParts::Missing(const wchar_t* operation) {
     }
 }
 
-RibbonIds CPendingParts::BuildRibbonToolbar(bool) {
-    Missing(L"The ribbon");
-    return {};
-}
-
-void CPendingParts::SetOnOffCaption(bool) {
-    Missing(L"The ribbon");
-}
-
-void CPendingParts::EnableButtons(bool) {
-    Missing(L"The ribbon");
-}
-
 void CPendingParts::OnBuildUserInterface(uintptr_t, intptr_t) {
     Missing(L"The classic toolbar band");
 }

@@ -9,20 +9,12 @@
 
 namespace Orva::Plugin {
 
-// Stands in for the parts the add-in does not have yet (ribbon, classic band, spam folder,
-// dialogs), so that the controller and its protocol run complete without them. Each missing
-// operation is logged the first time it is asked for; none pretends to succeed: no ribbon ids,
-// no spam folder, no dialog.
-class CPendingParts final : public IRibbonCommands,
-                            public IClassicBand,
-                            public ISpamFolder,
-                            public ICommandDialogs {
+// Stands in for the parts the add-in does not have yet (classic band, spam folder, dialogs), so
+// that the controller and its protocol run complete without them. Each missing operation is
+// logged the first time it is asked for; none pretends to succeed: no spam folder, no dialog.
+class CPendingParts final : public IClassicBand, public ISpamFolder, public ICommandDialogs {
 public:
     explicit CPendingParts(ZelCommon::Library::DebugLog& log) : m_log(log) {}
-
-    RibbonIds BuildRibbonToolbar(bool toolbarEnabled) override;
-    void SetOnOffCaption(bool enabled) override;
-    void EnableButtons(bool enable) override;
 
     void OnBuildUserInterface(uintptr_t wParam, intptr_t lParam) override;
     bool IsBuilt() const override { return false; }

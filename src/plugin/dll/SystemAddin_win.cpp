@@ -18,6 +18,7 @@ using namespace ZelCommon::Platform;
 
 CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsStore& settings,
                                      CAgentLink& agent, ZelResourceStringLoader& strings,
+                                     const std::wstring& installFile,
                                      ZelCommon::Library::DebugLog& log)
     : m_module(module),
       m_settings(settings),
@@ -27,7 +28,9 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
       m_host(CreateSystemHostObjects(m_relay, m_log)),
       m_shutdownDone(CreateAutoResetEvent()),
       m_hook(CreateWindowProcedureHook(CToolBarWnd::MainWindowHookProcedure())),
-      m_strings(strings),
+      m_strings(strings, installFile, ZelCommon::Storage::SystemProfileApi()),
+      m_ribbon(m_host->Toolbar(), m_strings, SystemProcessContext(),
+               Orva::Settings::DefaultInstallFolder(), m_log),
       m_accountCheck({ZelCommon::Storage::SystemRegistryApi(), SystemProcessContext(), m_log}),
       m_pending(m_log) {}
 
@@ -38,7 +41,7 @@ bool CSystemController::Open() {
                         SystemShellOpen(), SystemKeyboard(), SystemProcessContext(),
                         SystemDebuggerOutput(), Orva::Settings::SystemOsInfo(), *m_host, m_version,
                         m_log},
-        ControllerParts{m_pending, m_pending, m_pending, m_accountCheck, m_pending, m_strings,
+        ControllerParts{m_ribbon, m_pending, m_pending, m_accountCheck, m_pending, m_strings,
                         m_settings, m_agent},
         m_log);
     return m_window != nullptr;
@@ -59,14 +62,14 @@ void CSystemController::SetMailClientWindow(WindowHandle window) {
 
 CSystemAddin::CSystemAddin(HINSTANCE module)
     : m_log(ZelCommon::Library::TheLog()),
-      m_paths(Orva::Settings::ComputeSettingsPaths(
-          SystemProcessContext(), ZelCommon::Storage::SystemRegistryApi(), m_log)),
+      m_paths(Orva::Settings::ComputeSettingsPaths(SystemProcessContext(),
+                                                   ZelCommon::Storage::SystemRegistryApi(), m_log)),
       m_settings(ZelCommon::Storage::SystemProfileApi(),
                  Orva::Settings::FilesOf(m_paths, Orva::Settings::CComUtilSet::IsWindows64())),
       m_agent(SystemWindowMessaging(), SystemClock(), SystemProcessLauncher(), m_log,
               m_paths.addinFolder),
       m_strings(Orva::Settings::SystemStringLoaderServices()),
-      m_controller(module, m_settings, m_agent, m_strings, m_log),
+      m_controller(module, m_settings, m_agent, m_strings, m_paths.installFile, m_log),
       m_app(ApplicationParts{SystemProcessContext(), SystemDebuggerOutput(), m_log, m_paths,
                              m_settings, m_agent, m_strings, m_controller}) {}
 

@@ -12,6 +12,7 @@
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailClientVersion.h"
 #include "plugin/controller/PendingParts.h"
+#include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarWnd_win.h"
 #include "plugin/host/HostEventRelay.h"
 #include "plugin/host/HostObjects.h"
@@ -27,7 +28,8 @@ namespace Orva::Plugin {
 class CSystemController final : public IControllerHandle {
 public:
     CSystemController(HINSTANCE module, Orva::Settings::SettingsStore& settings, CAgentLink& agent,
-                      ZelResourceStringLoader& strings, ZelCommon::Library::DebugLog& log);
+                      ZelResourceStringLoader& strings, const std::wstring& installFile,
+                      ZelCommon::Library::DebugLog& log);
 
     bool Open() override;
     bool Exists() const override { return m_window && m_window->Exists(); }
@@ -49,6 +51,7 @@ private:
     std::unique_ptr<ZelCommon::Platform::IWindowProcedureHook> m_hook;
     CMailClientVersion m_version;
     CLoaderStrings m_strings;
+    CRibbonToolbar m_ribbon;
     CMailClientAccountCheck m_accountCheck;
     CPendingParts m_pending;
     std::unique_ptr<CToolBarWnd> m_window;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "plugin/host/HostEventRelay.h"
+#include "plugin/host/HostToolbar.h"
 
 namespace Orva::Plugin {
 
@@ -16,7 +17,8 @@ public:
 };
 
 // The plug-in host's objects as the controller uses them: the init object (ready and shutdown
-// events), the API object (toolbar and selection events), their event sinks, COM and GDI+.
+// events), the API object (its ribbon, toolbar and selection events), their event sinks, COM and
+// GDI+.
 // The sinks themselves only relay events as controller messages (HostEventRelay.h).
 class IHostObjects {
 public:
@@ -35,6 +37,8 @@ public:
     virtual bool AdviseApiSink() = 0;
     // Unadvises and releases the API sink and object; may throw HostCallError or anything else.
     virtual void UnadviseApiSink() = 0;
+    // The API object's ribbon; its calls fail while there is no API object.
+    virtual IHostToolbar& Toolbar() = 0;
 
     virtual void InitializeCom() = 0;
     virtual void UninitializeCom() = 0;

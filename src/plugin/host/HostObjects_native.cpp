@@ -3,6 +3,20 @@
 namespace Orva::Plugin {
 namespace {
 
+// Without a host every ribbon call fails as a call on a missing object would.
+class AbsentToolbar final : public IHostToolbar {
+public:
+    int32_t CreateGroup(const std::wstring&) override { Fail(); }
+    int32_t AddButton(int32_t, const std::wstring&, const std::wstring&) override { Fail(); }
+    int32_t AddDropDownEntry(int32_t, int32_t, const std::wstring&, int32_t) override { Fail(); }
+    void SetTooltip(int32_t, int32_t, const std::wstring&) override { Fail(); }
+    void SetCaption(int32_t, int32_t, const std::wstring&) override { Fail(); }
+    void EnableButton(int32_t, int32_t, bool) override { Fail(); }
+
+private:
+    [[noreturn]] static void Fail() { throw HostCallError("Invalid pointer"); }
+};
+
 // No plug-in host exists outside Windows: nothing is ever created or advised.
 class AbsentHostObjects final : public IHostObjects {
 public:
@@ -18,6 +32,10 @@ public:
     void UninitializeCom() override {}
     void StartGdiplus() override {}
     void ShutdownGdiplus() override {}
+    IHostToolbar& Toolbar() override { return m_toolbar; }
+
+private:
+    AbsentToolbar m_toolbar;
 };
 
 }  // namespace

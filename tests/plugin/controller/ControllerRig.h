@@ -61,6 +61,7 @@ inline std::wstring AgentEntry(const wchar_t* delivery, uint32_t message, uintpt
 struct ControllerReplacements {
     ZelCommon::Platform::IWindowMessaging* messaging = nullptr;
     ZelCommon::Platform::IWindowProcedureHook* hook = nullptr;
+    Plugin::IRibbonCommands* ribbon = nullptr;
     Plugin::ISpamFolder* spamFolder = nullptr;
     Plugin::CAgentLink* agent = nullptr;
 };
@@ -102,7 +103,7 @@ struct ControllerRig {
                                        log};
     }
     Plugin::ControllerParts Parts(const ControllerReplacements& with = {}) {
-        return Plugin::ControllerParts{ribbon,
+        return Plugin::ControllerParts{with.ribbon ? *with.ribbon : ribbon,
                                        classic,
                                        with.spamFolder ? *with.spamFolder : spamFolder,
                                        account,

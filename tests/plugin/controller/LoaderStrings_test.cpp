@@ -17,7 +17,7 @@ class LoaderStrings : public Orva::Testing::StringLoaderTest {};
 TEST_F(LoaderStrings, Load_ReadsTheProductTable) {
     WriteTable(L"en-US", L"IDS_QUILLON_HALVION_HOMEWEB", L"http://home.example/");
     ZelResourceStringLoader loader(Services());
-    CLoaderStrings strings(loader);
+    CLoaderStrings strings(loader, InstallFile(), profile);
     EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"http://home.example/");
     EXPECT_EQ(loader.Section(), L"ORVA_WLM");
     EXPECT_EQ(strings.Load(L"IDS_MISSING"), L"");
@@ -26,7 +26,7 @@ TEST_F(LoaderStrings, Load_ReadsTheProductTable) {
 
 TEST_F(LoaderStrings, NoTable_GivesEmptyTextsAndIsLookedForOnce) {
     ZelResourceStringLoader loader(Services());
-    CLoaderStrings strings(loader);
+    CLoaderStrings strings(loader, InstallFile(), profile);
     for (int load = 0; load < 3; ++load) {
         EXPECT_EQ(strings.Load(L"IDS_QUILLON_HALVION_HOMEWEB"), L"");
     }
@@ -40,11 +40,26 @@ TEST_F(LoaderStrings, NoTable_GivesEmptyTextsAndIsLookedForOnce) {
 TEST_F(LoaderStrings, Release_ClosesTheTableAndTheNextLoadReopensIt) {
     WriteTable(L"en-US", L"IDS_PRODUCT_NAME", L"ORVA");
     ZelResourceStringLoader loader(Services());
-    CLoaderStrings strings(loader);
+    CLoaderStrings strings(loader, InstallFile(), profile);
     ASSERT_EQ(strings.Load(L"IDS_PRODUCT_NAME"), L"ORVA");
     strings.Release();
     EXPECT_EQ(loader.Section(), L"");
     EXPECT_EQ(strings.Load(L"IDS_PRODUCT_NAME"), L"ORVA");
+}
+
+// The ribbon's captions name the product through placeholders; a closed table leaves none.
+TEST_F(LoaderStrings, LoadShown_ExpandsPlaceholdersOnlyFromAnOpenTable) {
+    ZelResourceStringLoader missing(Services());
+    CLoaderStrings noTable(missing, InstallFile(), profile);
+    EXPECT_EQ(noTable.LoadShown(L"IDS_ABOUT_CAPTION"), L"");
+
+    WriteTable(L"en-US", L"IDS_PRODUCT_NAME", L"Table Product");
+    WriteTable(L"en-US", L"IDS_ABOUT_CAPTION", L"About <$PRODUCT NAME>");
+    WriteEntry(InstallFile(), L"General", L"AboutProductName", L"Branded");
+    ZelResourceStringLoader loader(Services());
+    CLoaderStrings strings(loader, InstallFile(), profile);
+    EXPECT_EQ(strings.LoadShown(L"IDS_ABOUT_CAPTION"), L"About Branded");
+    EXPECT_EQ(strings.Load(L"IDS_ABOUT_CAPTION"), L"About <$PRODUCT NAME>");
 }
 
 }  // namespace

@@ -95,7 +95,7 @@ public:
 TEST(ControllerCopyData, RequestDuringADeleteAllOnTheSameThread_DoesNothing) {
     ControllerRig rig;
     ReenteringSpamFolder folder;
-    const auto controller = rig.MakeController({nullptr, nullptr, &folder});
+    const auto controller = rig.MakeController({.spamFolder = &folder});
     folder.controller = controller.get();
 
     EXPECT_EQ(controller->OnCopyData(1078, Record(1, 2, 1)), 0);
@@ -154,7 +154,7 @@ private:
 TEST(ControllerCopyData, SecondRequestFromAnotherThread_WaitsForTheFirstToFinish) {
     ControllerRig rig;
     BlockingSpamFolder folder;
-    const auto controller = rig.MakeController({nullptr, nullptr, &folder});
+    const auto controller = rig.MakeController({.spamFolder = &folder});
     const auto first = Record(1, 0, 1);
     const auto second = Record(2, 0, 1);
     std::thread firstCaller([&] { controller->OnCopyData(1078, first); });

@@ -12,6 +12,7 @@
 #include "plugin/controller/MailClientVersion.h"
 #include "plugin/host/HostObjects.h"
 #include "support/fakes/platform/FakeSystemPorts.h"
+#include "support/fakes/plugin/FakeHostToolbar.h"
 
 namespace ZelCommon::Fakes {
 
@@ -47,6 +48,9 @@ public:
     void UninitializeCom() override;
     void StartGdiplus() override;
     void ShutdownGdiplus() override;
+    Orva::Plugin::IHostToolbar& Toolbar() override { return toolbar; }
+
+    FakeHostToolbar toolbar;
 
     void FailInitCreation(bool fail) { m_failInit = fail; }
     void FailApiCreation(bool fail) { m_failApi = fail; }
@@ -164,6 +168,8 @@ private:
 class FakeLocalisedStrings final : public Orva::Plugin::ILocalisedStrings, public JournalNotes {
 public:
     std::wstring Load(const std::wstring& id) override;
+    // The map's texts stand for expanded ones.
+    std::wstring LoadShown(const std::wstring& id) override { return Load(id); }
     void Release() override { Note(L"strings release"); }
 
     std::map<std::wstring, std::wstring> texts;
