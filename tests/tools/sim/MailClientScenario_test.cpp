@@ -41,18 +41,20 @@ TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
         {L"ORVA_WLM.exe\" " + kAgent, L"send " + kController + L" 1 0 0", L"host AdviseInitSink",
          L"debugger ORVA InitializePlugin()"},
         // The re-query was posted: it runs only once the build has returned.
-        {L"send " + kController + L" 4029 0 0", L"ribbon build 1",
+        {L"send " + kController + L" 4029 0 0", L"dump button ID: 1000, 1001",
          L"post " + kController + L" 4028", L"log @@@ CToolBarWnd::OnBuildUI  OUT",
          L"log @@@ CToolBarWnd::OnReQueryDefaultAccount  IN", L"post " + kAgent + L" 4027 0 0",
-         L"log CToolBarWnd::OnTimer() Got WLM handle"},
+         L"log CToolBarWnd::OnTimer() Got WLM handle",
+         L"ribbon 1004 entry 2 of 1001 \"Turn Protection Off\""},
         {L"post " + kController + L" 1075 0 0", L"log WLM Shadow is OK now!"},
         {L"folderId=[0x100000002]", L"post " + kController + L" 1076 1 2",
          L"store folder-selected 0x100000002"},
-        {L"post " + kController + L" 4031 101 108", L"post " + kAgent + L" 1041 0 0"},
+        {L"post " + kController + L" 4031 1000 1007", L"post " + kAgent + L" 1041 0 0"},
         {L"store delete-all 0x10000000B 0x2A 1"},
         {L"window opens " + std::wstring(Plugin::kSuiteWindowTitle),
          L"log @@@ CToolBarWnd::OnClickRibbonButton  OUT"},
-        {L"ini ORVA_WLM.ini [Antispam] EnableTBar = \"0\"", L"post " + kAgent + L" 1069 0 0"},
+        {L"ini ORVA_WLM.ini [Antispam] EnableTBar = \"0\"", L"post " + kAgent + L" 1069 0 0",
+         L"\"Turn Protection On\"", L"ribbon 1007 button \"Spam\"", L" disabled"},
         {L"send " + kAgent + L" 16 0 0", L"send " + kController + L" 4030 0 0",
          L"post " + kController + L" 16 0 0",
          L"log CToolBarWnd::OnClose() wait for on shutdown success",
@@ -78,14 +80,14 @@ TEST(MailClientScenario, Version17_StopsTheAgentAndBuildsNothing) {
     EXPECT_TRUE(HasInOrder(steps[1].entries,
                            {L"log !!! Not support WLM version", L"post " + kAgent + L" 1069 0 0"}));
     EXPECT_FALSE(HasInOrder(steps[1].entries, {L" 4028 "}));
-    EXPECT_FALSE(HasInOrder(steps[1].entries, {L"ribbon build"}));
+    EXPECT_FALSE(HasInOrder(steps[1].entries, {L"dump button ID"}));
     EXPECT_FALSE(HasInOrder(steps[4].entries, {L" 1041 "}));
 }
 
 TEST(MailClientScenario, Version14_BuildsTheClassicBandAndReportsThroughIt) {
     const std::vector<ScenarioStep> steps = RunMailClientScenario(14);
     EXPECT_TRUE(HasInOrder(steps[1].entries, {L"classic build 0 0", L"post " + kAgent + L" 4027"}));
-    EXPECT_FALSE(HasInOrder(steps[1].entries, {L"ribbon build"}));
+    EXPECT_FALSE(HasInOrder(steps[1].entries, {L"dump button ID"}));
     EXPECT_TRUE(HasInOrder(steps[4].entries, {L"post " + kAgent + L" 1041 0 0"}));
 }
 

@@ -19,9 +19,14 @@ namespace Message = Orva::Plugin::ControllerMessage;
 SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
                                                      SimulatedMessageLoop& loop,
                                                      Orva::Settings::SettingsStore& settings,
-                                                     Orva::Plugin::CAgentLink& agent)
+                                                     Orva::Plugin::CAgentLink& agent,
+                                                     ZelResourceStringLoader& strings,
+                                                     const std::wstring& installFile)
     : m_process(process),
       m_loop(loop),
+      m_strings(strings, installFile, process.profile),
+      m_ribbon(m_host.toolbar, m_strings, process.process,
+               process.StringServices().defaultInstallFolder, process.log),
       m_controller(
           Orva::Plugin::ControllerPorts{process.messaging, process.clock, m_shutdownDone, m_hook,
                                         m_shell, m_keyboard, process.process, process.debugger,
@@ -32,8 +37,8 @@ SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
     ZelCommon::Fakes::FakeJournal* journal = &process.journal;
     for (ZelCommon::Fakes::JournalNotes* fake :
          std::initializer_list<ZelCommon::Fakes::JournalNotes*>{
-             &m_host, &m_ribbon, &m_classic, &m_spamFolder, &m_account, &m_dialogs, &m_strings,
-             &m_calls, &m_shutdownDone, &m_hook, &m_shell}) {
+             &m_host, &m_classic, &m_spamFolder, &m_account, &m_dialogs, &m_calls, &m_shutdownDone,
+             &m_hook, &m_shell}) {
         fake->SetJournal(journal);
     }
     // The mail client 14 has its rebar from the start, so the classic band goes in at once.

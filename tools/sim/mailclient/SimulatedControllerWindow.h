@@ -9,6 +9,8 @@
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
 #include "plugin/ORVA_WLMAApp.h"
+#include "plugin/controller/LoaderStrings.h"
+#include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarController.h"
 #include "support/fakes/platform/FakeSystemPorts.h"
 #include "support/fakes/plugin/FakePluginPorts.h"
@@ -17,13 +19,15 @@ namespace Orva::Sim {
 
 // The controller window in the simulated process: a window of the controller's class and title
 // that hands every message to the real CToolBarController, which works on recording fakes of
-// the host and of the add-in's parts. Messages arrive as Windows delivers them: a send runs at
-// once, a post waits in the message loop. Opened with WM_CREATE; WM_CLOSE destroys it.
+// the host and of the add-in's parts, and on the real ribbon and texts over the fake host. Messages
+// arrive as Windows delivers them: a send runs at once, a post waits in the message loop. Opened
+// with WM_CREATE; WM_CLOSE destroys it.
 class SimulatedControllerWindow final : public Orva::Plugin::IControllerHandle {
 public:
     SimulatedControllerWindow(SimulatedProcess& process, SimulatedMessageLoop& loop,
                               Orva::Settings::SettingsStore& settings,
-                              Orva::Plugin::CAgentLink& agent);
+                              Orva::Plugin::CAgentLink& agent, ZelResourceStringLoader& strings,
+                              const std::wstring& installFile);
     ~SimulatedControllerWindow() override;
     SimulatedControllerWindow(const SimulatedControllerWindow&) = delete;
     SimulatedControllerWindow& operator=(const SimulatedControllerWindow&) = delete;
@@ -41,6 +45,8 @@ public:
     ZelCommon::Platform::WindowHandle Handle() const { return m_window; }
     const Orva::Plugin::CToolBarController& Controller() const { return m_controller; }
     bool HasClassicBand() const { return m_classic.IsBuilt(); }
+    // What the host's ribbon was given.
+    const ZelCommon::Fakes::FakeHostToolbar& Toolbar() const { return m_host.toolbar; }
 
 private:
     intptr_t OnMessage(const ZelCommon::Fakes::FakeWindowMessaging::Message& message);
@@ -50,12 +56,12 @@ private:
     SimulatedProcess& m_process;
     SimulatedMessageLoop& m_loop;
     ZelCommon::Fakes::FakeHostObjects m_host;
-    ZelCommon::Fakes::FakeRibbonCommands m_ribbon;
+    Orva::Plugin::CLoaderStrings m_strings;
+    Orva::Plugin::CRibbonToolbar m_ribbon;
     ZelCommon::Fakes::FakeClassicBand m_classic;
     ZelCommon::Fakes::FakeSpamFolder m_spamFolder;
     ZelCommon::Fakes::FakeAccountCheck m_account;
     ZelCommon::Fakes::FakeCommandDialogs m_dialogs;
-    ZelCommon::Fakes::FakeLocalisedStrings m_strings;
     ZelCommon::Fakes::FakeControllerWindow m_calls;
     ZelCommon::Fakes::FakeEvent m_shutdownDone;
     ZelCommon::Fakes::FakeWindowProcedureHook m_hook;

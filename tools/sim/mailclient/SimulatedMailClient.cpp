@@ -22,6 +22,28 @@ void PutLittleEndian(std::span<std::byte> out, uint64_t value) {
     }
 }
 
+// "ribbon 1003 entry 1 of 1001 \"Statistics\"", with the image's file name and the tooltip when
+// the item has them, and "disabled" when it is greyed.
+std::wstring DescribeRibbonItem(const ZelCommon::Fakes::FakeRibbonItem& item) {
+    using ZelCommon::Text::Format;
+    std::wstring text = Format(L"ribbon %d ", item.id);
+    if (item.id == item.group) {
+        text += L"group";
+    } else if (item.entryEvent >= 0) {
+        text += Format(L"entry %d of %d", item.entryEvent, item.parent);
+    } else {
+        text += L"button";
+    }
+    text += L" \"" + item.caption + L"\"";
+    if (!item.image.empty()) {
+        text += L" image " + item.image.substr(item.image.find_last_of(L"\\/") + 1);
+    }
+    if (!item.tooltip.empty()) {
+        text += L" tooltip \"" + item.tooltip + L"\"";
+    }
+    return item.enabled ? text : text + L" disabled";
+}
+
 }  // namespace
 
 SimulatedMailClient::SimulatedMailClient(int mailClientVersion)
@@ -35,7 +57,7 @@ SimulatedMailClient::SimulatedMailClient(int mailClientVersion)
       m_agent(m_process.messaging, m_process.clock, m_process.launcher, m_process.log,
               m_paths.addinFolder),
       m_strings(m_process.StringServices()),
-      m_window(m_process, m_loop, m_settings, m_agent),
+      m_window(m_process, m_loop, m_settings, m_agent, m_strings, m_paths.installFile),
       m_app(ApplicationParts{m_process.process, m_process.debugger, m_process.log, m_paths,
                              m_settings, m_agent, m_strings, m_window}) {
     m_process.profile.SetJournal(&m_process.journal);
@@ -63,6 +85,15 @@ void SimulatedMailClient::LoadAddin() {
 void SimulatedMailClient::HostReady() {
     m_relay.OnReady();
     Settle();
+    JournalRibbon();
+}
+
+void SimulatedMailClient::JournalRibbon() {
+    if (m_controllerWindow != nullptr) {
+        for (const ZelCommon::Fakes::FakeRibbonItem& item : m_controllerWindow->Toolbar().items) {
+            m_process.journal.Add(DescribeRibbonItem(item));
+        }
+    }
 }
 
 void SimulatedMailClient::AgentReportsRunning() {
@@ -131,6 +162,9 @@ void SimulatedMailClient::ClickDropDownEntry(int32_t entry) {
     const auto* controller = Controller();
     if (controller != nullptr && controller->Ribbon().group != 0) {
         m_relay.OnSubButtonClicked(entry);
+        Settle();
+        JournalRibbon();
+        return;
     } else if (m_controllerWindow != nullptr && m_controllerWindow->HasClassicBand()) {
         m_process.journal.Add(L"classic band: its drop-down is not simulated");
     } else {

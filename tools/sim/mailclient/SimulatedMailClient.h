@@ -28,7 +28,8 @@ public:
 
     // The plug-in host loads the add-in and calls InitializePlugin.
     void LoadAddin();
-    // The host's init object reports that the client is ready.
+    // The host's init object reports that the client is ready; the ribbon it then shows is
+    // journaled.
     void HostReady();
     // The agent tells the controller that it runs.
     void AgentReportsRunning();
@@ -40,7 +41,7 @@ public:
     void AgentDeletesAllSpam(uint64_t folderId, uint64_t messageId, bool allMarked);
     void SuiteWindowAppears();
     void SuiteWindowGoes();
-    // An entry of the logo's drop-down (0 settings ... 4 about).
+    // An entry of the logo's drop-down (0 settings ... 4 about); the ribbon is journaled after.
     void ClickDropDownEntry(int32_t entry);
     // The host reports the shut-down, then unloads the add-in.
     void ShutDown();
@@ -54,6 +55,8 @@ public:
 
 private:
     void Settle();
+    // What the host's ribbon shows now, one journal entry per item.
+    void JournalRibbon();
     void ClickReportButton(int32_t ribbonButton, uint32_t agentMessage);
 
     // Wired as the add-in's DLL wires itself, on the simulated process.

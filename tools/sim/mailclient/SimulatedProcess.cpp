@@ -1,5 +1,7 @@
 #include "SimulatedProcess.h"
 
+#include <filesystem>
+
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
 #include "plugin/protocol/AgentProtocol.h"
@@ -32,6 +34,20 @@ SimulatedProcess::SimulatedProcess(int mailClientVersion)
     profile.WriteString(L"General", L"Debug", L"1",
                         ZelCommon::Path::ChildFile(m_addinFolder, L"ORVA_WLM.ini").c_str());
     m_mainWindow = messaging.AddWindow(L"", std::wstring(Orva::Plugin::kMailClientMainClass));
+    InstallStringTables();
+}
+
+// The product installs its string tables below the installation folder, which the registry does
+// not name here, so the loader looks in the default one.
+void SimulatedProcess::InstallStringTables() {
+    using ZelCommon::Path::ChildFolder;
+    const std::wstring tables = ChildFolder(
+        ChildFolder(ChildFolder(StringServices().defaultInstallFolder, L"ORVA"), L"Resource"),
+        L"x86");
+    std::filesystem::create_directories(tables);
+    std::filesystem::copy(ORVA_SHIPPED_RESOURCES, tables,
+                          std::filesystem::copy_options::recursive |
+                              std::filesystem::copy_options::overwrite_existing);
 }
 
 std::wstring SimulatedProcess::CreatedFolder(const std::wstring& name) const {

@@ -55,6 +55,7 @@ public:
 
 private:
     void StartAgent();
+    void InstallStringTables();
     // A folder of the simulated machine, created with its parents; ends with the separator.
     std::wstring CreatedFolder(const std::wstring& name) const;
 
