@@ -1,5 +1,6 @@
 #include "Orvactl.h"
 
+#include "AccountCommand.h"
 #include "CommandErrors.h"
 #include "IniCommands.h"
 #include "ListsCommand.h"
@@ -14,7 +15,8 @@ constexpr std::wstring_view kIntroHelp =
     LR"(Usage: orvactl COMMAND ...
 
 Reads and writes the add-in's ini files and sender lists and checks its string tables,
-with the same code the add-in uses, and shows the settings a user gets from a deployment.
+with the same code the add-in uses, shows the settings a user gets from a deployment and
+answers whether the add-in serves a mail account.
 
 )";
 
@@ -76,6 +78,8 @@ std::wstring HelpText() {
     text += L"\n";
     text += kListsHeading;
     text += ListsHelpText();
+    text += L"\n";
+    text += AccountHelpText();
     text += kClosingHelp;
     return text;
 }
@@ -102,6 +106,9 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
     }
     if (args[0] == L"lists") {
         return RunListsCommand(rest, out, err);
+    }
+    if (args[0] == L"account") {
+        return RunAccountCommand(rest, out, err);
     }
     if (args[0] == L"strings") {
         return RunStringsCommand(rest, out, err, api);

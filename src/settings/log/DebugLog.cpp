@@ -50,6 +50,7 @@ struct DebugLog::State {
     std::mutex lock;
     Platform::AppendFile file;
     std::wstring basePath;
+    bool textOnly = false;
     uint16_t year = 0;
     uint16_t month = 0;
     uint16_t day = 0;
@@ -81,12 +82,20 @@ void DebugLog::OpenLog(const std::wstring& basePath) {
     std::lock_guard guard(m_state->lock);
     m_state->basePath = basePath;
     const Platform::LocalTime today = m_clock.Now();
+    m_state->textOnly = false;
     m_state->file.Close();
     m_state->file = Platform::AppendFile::Open(DatedPath(basePath, today));
     m_state->year = today.year;
     m_state->month = today.month;
     m_state->day = today.day;
     m_on = m_state->file.IsOpen();
+}
+
+void DebugLog::OpenTextOnly() {
+    std::lock_guard guard(m_state->lock);
+    m_state->file.Close();
+    m_state->textOnly = true;
+    m_on = true;
 }
 
 bool DebugLog::IsLogOn() const {
@@ -99,6 +108,10 @@ void DebugLog::WriteLine(const std::wstring& text) {
     }
     std::lock_guard guard(m_state->lock);
     State& state = *m_state;
+    if (state.textOnly) {
+        m_debugger.Write(text);
+        return;
+    }
     if (!state.file.IsOpen()) {
         return;
     }

@@ -27,6 +27,9 @@ public:
     DebugLog& operator=(const DebugLog&) = delete;
 
     void OpenLog(const std::wstring& basePath);
+    // Switches the log on without a file: each line's text alone, without the head, goes to the
+    // debugger output. The administrator's tool shows the add-in's trace this way.
+    void OpenTextOnly();
     bool IsLogOn() const;
     // Writes the text, behind the process/thread/time head, as one line (callers end it with
     // "\n").
