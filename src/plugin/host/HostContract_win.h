@@ -71,4 +71,17 @@ inline constexpr std::array kAccountManagerEvents{Event(L"OnDefaultAccountChange
 // A ribbon drop-down entry: either event is a click.
 inline constexpr std::array kSubButtonEvents{Event(L"OnClick", 1), Event(L"OnMsgWndClick", 2)};
 
+// The WLMailApi object's ribbon methods, called by name through its IDispatch. Assumed: ids are
+// 32-bit integers; adding a drop-down entry hands back the entry's own object, whose "Id"
+// property names it and whose connection point carries its clicks (kSubButtonEvents).
+namespace ToolbarMethod {
+inline constexpr wchar_t kCreateGroup[] = L"CreateToolbar";
+inline constexpr wchar_t kAddButton[] = L"AddToolbarButton";            // (group, caption, image)
+inline constexpr wchar_t kAddDropDownEntry[] = L"AddToolbarSubButton";  // (group, button, caption)
+inline constexpr wchar_t kEntryId[] = L"Id";
+inline constexpr wchar_t kSetTooltip[] = L"SetToolbarButtonTooltip";  // (group, button, text)
+inline constexpr wchar_t kSetCaption[] = L"SetToolbarButtonCaption";  // (group, button, text)
+inline constexpr wchar_t kEnableButton[] = L"EnableToolbarButton";    // (group, button, enable)
+}  // namespace ToolbarMethod
+
 }  // namespace Orva::Plugin::HostContract

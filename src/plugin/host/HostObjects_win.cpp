@@ -13,6 +13,7 @@ using std::min;
 #include "plugin/host/HostConnection_win.h"
 #include "plugin/host/HostContract_win.h"
 #include "plugin/host/HostEventSinks_win.h"
+#include "plugin/host/HostToolbar_win.h"
 
 namespace Orva::Plugin {
 namespace {
@@ -56,9 +57,10 @@ class SystemHostObjects final : public IHostObjects {
 public:
     SystemHostObjects(CHostEventRelay& relay, ZelCommon::Library::DebugLog& log,
                       HostObjectCreator creator)
-        : m_relay(relay), m_log(log), m_creator(std::move(creator)) {}
+        : m_relay(relay), m_log(log), m_creator(std::move(creator)), m_toolbar(relay, log) {}
 
     ~SystemHostObjects() override {
+        m_toolbar.Release();
         m_api = {};
         m_init = {};
         ShutdownGdiplus();
@@ -71,9 +73,18 @@ public:
     void ReleaseInitObject() override { m_init.object.Reset(); }
 
     bool HasApiObject() const override { return m_api.object != nullptr; }
-    bool CreateApiObject() override { return Create(HostContract::kApiProgId, m_api.object); }
+    bool CreateApiObject() override {
+        const bool created = Create(HostContract::kApiProgId, m_api.object);
+        m_toolbar.Attach(m_api.object);
+        return created;
+    }
     bool AdviseApiSink() override { return m_api.Advise(m_relay, m_log); }
-    void UnadviseApiSink() override { m_api.Unadvise(true); }
+    // The ribbon's entry sinks go with the object that made them.
+    void UnadviseApiSink() override {
+        m_toolbar.Release();
+        m_api.Unadvise(true);
+    }
+    IHostToolbar& Toolbar() override { return m_toolbar; }
 
     void InitializeCom() override {
         if (!m_comInitialized && SUCCEEDED(::CoInitialize(nullptr))) {
@@ -116,6 +127,7 @@ private:
     HostObjectCreator m_creator;
     HostObject<CWLMApiInitEventSink> m_init;
     HostObject<CWLMAApiEventSink> m_api;
+    CHostToolbar m_toolbar;
     bool m_comInitialized = false;
     ULONG_PTR m_gdiplusToken = 0;
 };

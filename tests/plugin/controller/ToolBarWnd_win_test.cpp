@@ -42,7 +42,10 @@ struct WindowRig : ControllerRig {
                                       ZelCommon::Platform::IWindowProcedureHook& hookPort,
                                       ISpamFolder& spamFolderPart,
                                       CAgentLink* agentLink = nullptr) {
-        const ControllerReplacements with{&messagingPort, &hookPort, &spamFolderPart, agentLink};
+        const ControllerReplacements with{.messaging = &messagingPort,
+                                          .hook = &hookPort,
+                                          .spamFolder = &spamFolderPart,
+                                          .agent = agentLink};
         return CToolBarWnd::Create(::GetModuleHandleW(nullptr), Ports(with), Parts(with), log);
     }
     std::unique_ptr<CToolBarWnd> Open() { return Open(messaging, hook, spamFolder); }
