@@ -184,20 +184,24 @@ TEST_F(ZelResourceStringLoaderTest, TableWithoutTheSection_FailsAsAReadError) {
                   TableOf(L"en-US") + L"]");
 }
 
-TEST_F(ZelResourceStringLoaderTest, EscapedLineBreaks_BecomeRealOnes) {
+// Escaped line breaks become real ones, other backslashes stay, and a long text comes whole.
+TEST_F(ZelResourceStringLoaderTest, LoadedTexts_HaveRealLineBreaksAndComeWhole) {
+    const std::wstring longText(5000, L'x');
     WriteTable(L"en-US", L"IDS_TWO_LINES", L"first\\nsecond");
     WriteTable(L"en-US", L"IDS_RETURN", L"a\\r\\nb");
     WriteTable(L"en-US", L"IDS_PATH", L"C:\\temp\\x");
+    WriteTable(L"en-US", L"IDS_LONG", longText + L"\\nend");
     ZelResourceStringLoader loader(Services());
     ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
 
     EXPECT_EQ(loader.LoadString(L"IDS_TWO_LINES"), L"first\nsecond");
     EXPECT_EQ(loader.LoadString(L"IDS_RETURN"), L"a\r\nb");
     EXPECT_EQ(loader.LoadString(L"IDS_PATH"), L"C:\\temp\\x");
+    EXPECT_EQ(loader.LoadString(L"IDS_LONG"), longText + L"\nend");
 }
 
-// An empty id clears the success flag; an unknown one only logs.
-TEST_F(ZelResourceStringLoaderTest, EmptyOrMissingId_GivesEmptyTextAndLogs) {
+// An empty id clears the success flag; an unknown one only logs; a closed table loads nothing.
+TEST_F(ZelResourceStringLoaderTest, EmptyOrMissingIdOrClosedTable_GivesEmptyText) {
     WriteTable(L"en-US", L"IDS_OK", L"OK");
     ZelResourceStringLoader loader(Services());
     ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
@@ -210,15 +214,8 @@ TEST_F(ZelResourceStringLoaderTest, EmptyOrMissingId_GivesEmptyTextAndLogs) {
     EXPECT_EQ(loader.LoadString(L""), L"");
     EXPECT_FALSE(loader.Succeeded());
     EXPECT_THAT(TakeLines(), ElementsAre(L"*** Error! Load empty string ID."));
-}
-
-TEST_F(ZelResourceStringLoaderTest, UnInitialize_ClosesTheTable) {
-    WriteTable(L"en-US", L"IDS_OK", L"OK");
-    ZelResourceStringLoader loader(Services());
-    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
-
+    // Once the table is closed, nothing loads.
     loader.UnInitialize();
-
     EXPECT_EQ(loader.LoadString(L"IDS_OK"), L"");
     EXPECT_FALSE(loader.Succeeded());
 }
@@ -231,15 +228,6 @@ TEST_F(ZelResourceStringLoaderTest, UnknownSystemLocale_IsTreatedAsMissing) {
     ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
 
     EXPECT_EQ(loader.LocaleName(), L"en-US");
-}
-
-TEST_F(ZelResourceStringLoaderTest, LongText_ComesBackWhole) {
-    const std::wstring text(5000, L'x');
-    WriteTable(L"en-US", L"IDS_LONG", text + L"\\nend");
-    ZelResourceStringLoader loader(Services());
-    ASSERT_TRUE(loader.Initialize(L"ORVA_WLM"));
-
-    EXPECT_EQ(loader.LoadString(L"IDS_LONG"), text + L"\nend");
 }
 
 TEST_F(ZelResourceStringLoaderTest, DamagedTable_IsRefusedWithoutHarm) {
