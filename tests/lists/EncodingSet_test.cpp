@@ -59,11 +59,27 @@ TEST(CEncodingSet, Load_MissingFileOrFolderGivesEmptySet) {
     }
 }
 
-TEST(CEncodingSet, Parse_AnyFirstLineStillLoadsFromLineThree) {
-    CEncodingSet set;
-    set.Parse(L"whatever is here\n12\nThai\t1\t874\n");
-    EXPECT_EQ(12, set.Value());
-    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"Thai", Group(true, {874})}}), set.Groups());
+// Line one is never read, line two is the value (its number prefix, else 0), groups follow.
+TEST(CEncodingSet, Parse_ValueFromLineTwoGroupsFromLineThree) {
+    using Groups = std::map<std::wstring, EncodingGroup>;
+    const struct {
+        std::wstring text;
+        int32_t value;
+        Groups groups;
+    } cases[] = {
+        {L"whatever is here\n12\nThai\t1\t874\n", 12, {{L"Thai", Group(true, {874})}}},
+        {L"h\n0\nThai\t1\t874\nThai\t0\t1\n", 0, {{L"Thai", Group(true, {874})}}},
+        {L"h\nabc\n", 0, {}},
+        {L"h\n  42x\n", 42, {}},
+        {L"h\n", 0, {}},
+    };
+    for (const auto& each : cases) {
+        CEncodingSet set;
+        set.SetValue(3);
+        set.Parse(each.text);
+        EXPECT_EQ(each.value, set.Value()) << testing::PrintToString(each.text);
+        EXPECT_EQ(each.groups, set.Groups()) << testing::PrintToString(each.text);
+    }
 }
 
 TEST(CEncodingSet, Parse_CrLfAndMarksReadLikeLf) {
@@ -81,12 +97,6 @@ TEST(CEncodingSet, Parse_CrLfAndMarksReadLikeLf) {
                                                          {L"Thai", Group(true, {874})}}),
                   set.Groups());
     }
-}
-
-TEST(CEncodingSet, Parse_RepeatedNameKeepsFirst) {
-    CEncodingSet set;
-    set.Parse(L"h\n0\nThai\t1\t874\nThai\t0\t1\n");
-    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"Thai", Group(true, {874})}}), set.Groups());
 }
 
 struct DamagedCase {
@@ -131,16 +141,6 @@ INSTANTIATE_TEST_SUITE_P(
         DamagedCase{"Blank", L"", L"", EncodingGroup{}},
         DamagedCase{"RepeatOfAlpha", L"Alpha\t0\t3", L"", EncodingGroup{}}),
     [](const auto& test) { return std::string(test.param.label); });
-
-TEST(CEncodingSet, Parse_NonNumericValueReadsAsZeroAndNumberPrefixIsKept) {
-    CEncodingSet set;
-    set.Parse(L"h\nabc\n");
-    EXPECT_EQ(0, set.Value());
-    set.Parse(L"h\n  42x\n");
-    EXPECT_EQ(42, set.Value());
-    set.Parse(L"h\n");
-    EXPECT_EQ(0, set.Value());
-}
 
 TEST(CEncodingSet, AddGroup_RefusesNamesThatWouldBreakTheFile) {
     CEncodingSet set;

@@ -11,23 +11,21 @@ SenderEntry Entry(const std::wstring& name, const std::wstring& address) {
     return SenderEntry{name, address};
 }
 
-TEST(CBListSet, Add_NewAddress_ReturnsAddedAndKeepsCase) {
+// The key is the address argument, lower-cased; the entry keeps its spelling; a second add of
+// the key in any case changes nothing; star keys also enter the wildcard index.
+TEST(CBListSet, Add_KeysByTheAddressArgumentIgnoringCase) {
     CBListSet set;
     EXPECT_EQ(kAddAdded, set.Add(L"Ann@B.com", Entry(L"Ann", L"Ann@B.com")));
-    EXPECT_EQ((std::vector<SenderEntry>{Entry(L"Ann", L"Ann@B.com")}), set.Entries());
-}
-
-TEST(CBListSet, Add_SameAddressInOtherCase_ReturnsExistedAndChangesNothing) {
-    CBListSet set;
-    set.Add(L"ann@b.com", Entry(L"First", L"ann@b.com"));
     EXPECT_EQ(kAddExisted, set.Add(L"ANN@B.COM", Entry(L"Second", L"ANN@B.COM")));
-    EXPECT_EQ((std::vector<SenderEntry>{Entry(L"First", L"ann@b.com")}), set.Entries());
-}
-
-TEST(CBListSet, Add_NullAddress_ReturnsFull) {
-    CBListSet set;
     EXPECT_EQ(kAddFull, set.Add(nullptr, Entry(L"", L"a@b.com")));
-    EXPECT_EQ(0u, set.Count());
+    EXPECT_EQ(kAddAdded, set.Add(L"*@Spam.COM", Entry(L"", L"*@Spam.COM")));
+    EXPECT_EQ(kAddAdded, set.Add(L"key@b.com", Entry(L"N", L"stored@b.com")));
+    EXPECT_EQ((std::vector<SenderEntry>{Entry(L"", L"*@Spam.COM"), Entry(L"Ann", L"Ann@B.com"),
+                                        Entry(L"N", L"stored@b.com")}),
+              set.Entries());
+    EXPECT_EQ(std::vector<std::wstring>{L"*@spam.com"}, set.WildcardKeys());
+    EXPECT_TRUE(set.Find(L"key@b.com"));
+    EXPECT_FALSE(set.Find(L"stored@b.com"));
 }
 
 TEST(CBListSet, Add_Entry8001_ReturnsFullAndKeeps8000) {
@@ -43,13 +41,6 @@ TEST(CBListSet, Add_Entry8001_ReturnsFullAndKeeps8000) {
     EXPECT_FALSE(set.Find(L"late@b.com"));
 }
 
-TEST(CBListSet, Add_KeyUsesTheAddressArgumentNotTheEntrysAddress) {
-    CBListSet set;
-    set.Add(L"key@b.com", Entry(L"N", L"stored@b.com"));
-    EXPECT_TRUE(set.Find(L"key@b.com"));
-    EXPECT_FALSE(set.Find(L"stored@b.com"));
-}
-
 TEST(CBListSet, Entries_AreInCodeUnitOrderOfLowerCasedKeys) {
     CBListSet set;
     for (const wchar_t* address : {L"b@x.com", L"A@x.com", L"_@x.com", L"*@x.com", L"Z@x.com"}) {
@@ -63,13 +54,6 @@ TEST(CBListSet, Entries_AreInCodeUnitOrderOfLowerCasedKeys) {
     EXPECT_EQ(
         (std::vector<std::wstring>{L"*@x.com", L"_@x.com", L"A@x.com", L"b@x.com", L"Z@x.com"}),
         order);
-}
-
-TEST(CBListSet, Add_StarAddress_EntersWildcardIndexLowerCased) {
-    CBListSet set;
-    set.Add(L"*@Spam.COM", Entry(L"", L"*@Spam.COM"));
-    set.Add(L"plain@b.com", Entry(L"", L"plain@b.com"));
-    EXPECT_EQ(std::vector<std::wstring>{L"*@spam.com"}, set.WildcardKeys());
 }
 
 TEST(CBListSet, Find_IgnoresCaseAndNull) {
@@ -102,43 +86,46 @@ TEST(CBListSet, Remove_DropsKeyAndWildcardAndIgnoresAbsentKey) {
     EXPECT_TRUE(set.WildcardKeys().empty());
 }
 
-TEST(CBListSet, Modify_AbsentOldAddress_ReturnsFalse) {
-    CBListSet set;
-    set.Add(L"a@b.com", Entry(L"A", L"a@b.com"));
-    EXPECT_FALSE(set.Modify(L"x@b.com", L"X", L"x@b.com"));
-    EXPECT_FALSE(set.Modify(nullptr, L"X", L"x@b.com"));
-    EXPECT_EQ((std::vector<SenderEntry>{Entry(L"A", L"a@b.com")}), set.Entries());
-}
-
-TEST(CBListSet, Modify_SameAddressInOtherCase_ChangesOnlyTheName) {
-    CBListSet set;
-    set.Add(L"Ann@b.com", Entry(L"Ann", L"Ann@b.com"));
-    EXPECT_TRUE(set.Modify(L"ann@b.com", L"Anna", L"ANN@B.COM"));
-    EXPECT_EQ((std::vector<SenderEntry>{Entry(L"Anna", L"Ann@b.com")}), set.Entries());
-}
-
-TEST(CBListSet, Modify_NewAddress_RekeysAndStoresItLowerCased) {
-    CBListSet set;
-    set.Add(L"*@old.com", Entry(L"Old", L"*@old.com"));
-    EXPECT_TRUE(set.Modify(L"*@old.com", L"New", L"*@New.com"));
-    EXPECT_EQ((std::vector<SenderEntry>{Entry(L"New", L"*@new.com")}), set.Entries());
-    EXPECT_EQ(std::vector<std::wstring>{L"*@new.com"}, set.WildcardKeys());
-    EXPECT_FALSE(set.Find(L"*@old.com"));
-}
-
-TEST(CBListSet, Modify_ToAddressHeldByAnotherEntry_KeepsThatEntryAndErasesOld) {
-    CBListSet set;
-    set.Add(L"a@b.com", Entry(L"A", L"a@b.com"));
-    set.Add(L"c@d.com", Entry(L"C", L"c@d.com"));
-    EXPECT_TRUE(set.Modify(L"a@b.com", L"Renamed", L"C@D.com"));
-    EXPECT_EQ((std::vector<SenderEntry>{Entry(L"C", L"c@d.com")}), set.Entries());
-}
-
-TEST(CBListSet, Modify_StarAddressToPlain_LeavesWildcardIndex) {
-    CBListSet set;
-    set.Add(L"*@b.com", Entry(L"", L"*@b.com"));
-    EXPECT_TRUE(set.Modify(L"*@b.com", L"", L"x@b.com"));
-    EXPECT_TRUE(set.WildcardKeys().empty());
+// A new address rekeys the entry and is stored lower-cased; one that another entry holds keeps
+// that entry and drops the modified one.
+TEST(CBListSet, Modify_RekeysRenamesOrRefuses) {
+    using Entries = std::vector<SenderEntry>;
+    using Keys = std::vector<std::wstring>;
+    const struct {
+        const char* name;
+        Entries before;
+        const wchar_t* old;
+        const wchar_t* newName;
+        const wchar_t* address;
+        bool modified;
+        Entries after;
+        Keys wildcards;
+    } cases[] = {
+        // clang-format off
+        {"absent old address", {Entry(L"A", L"a@b.com")}, L"x@b.com", L"X", L"x@b.com", false,
+         {Entry(L"A", L"a@b.com")}, {}},
+        {"null old address", {Entry(L"A", L"a@b.com")}, nullptr, L"X", L"x@b.com", false,
+         {Entry(L"A", L"a@b.com")}, {}},
+        {"same address in other case", {Entry(L"Ann", L"Ann@b.com")}, L"ann@b.com", L"Anna",
+         L"ANN@B.COM", true, {Entry(L"Anna", L"Ann@b.com")}, {}},
+        {"new address", {Entry(L"Old", L"*@old.com")}, L"*@old.com", L"New", L"*@New.com", true,
+         {Entry(L"New", L"*@new.com")}, {L"*@new.com"}},
+        {"address held by another", {Entry(L"A", L"a@b.com"), Entry(L"C", L"c@d.com")},
+         L"a@b.com", L"Renamed", L"C@D.com", true, {Entry(L"C", L"c@d.com")}, {}},
+        {"star to plain", {Entry(L"", L"*@b.com")}, L"*@b.com", L"", L"x@b.com", true,
+         {Entry(L"", L"x@b.com")}, {}},
+        // clang-format on
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        CBListSet set;
+        for (const SenderEntry& entry : each.before) {
+            set.Add(entry.address.c_str(), entry);
+        }
+        EXPECT_EQ(each.modified, set.Modify(each.old, each.newName, each.address));
+        EXPECT_EQ(each.after, set.Entries());
+        EXPECT_EQ(each.wildcards, set.WildcardKeys());
+    }
 }
 
 }  // namespace

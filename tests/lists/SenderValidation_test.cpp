@@ -5,7 +5,6 @@
 #include <regex>
 #include <string>
 
-#include "lists/ListKinds.h"
 #include "lists/SenderListSet.h"
 #include "lists/SenderValidation.h"
 
@@ -88,41 +87,38 @@ TEST(MessageForAddResult, NamesWhatThePageShows) {
     EXPECT_TRUE(MessageForAddResult(kAddAdded).messageId.empty());
 }
 
-TEST(ListKinds, ConflictQuestionNamesTheListBeingAddedTo) {
-    EXPECT_EQ(L"IDS_APPROVELISTCONLICT_MSG", ApprovedList::kConflictMessageId);
-    EXPECT_EQ(L"IDS_BLOCKLISTCONLICT_MSG", BlockedList::kConflictMessageId);
+// What a refusal shows: the address is checked before the name, the lengths before the pattern.
+TEST(SenderValidation, Refusals_NameTheirMessageCaptionAndLimit) {
+    const struct {
+        const char* label;
+        std::wstring name;
+        std::wstring address;
+        SenderCheck check;
+        const wchar_t* messageId;
+        const wchar_t* captionId;
+        int number;
+    } cases[] = {
+        {"name 257", std::wstring(257, L'n'), L"a@b.com", SenderCheck::NameTooLong,
+         L"IDS_TEXT_TOO_LONG_MSG", L"IDS_CONFIRMATION_CAPTION", 256},
+        {"both too long", std::wstring(300, L'n'), std::wstring(300, L'a'),
+         SenderCheck::AddressTooLong, L"IDS_TEXT_TOO_LONG_MSG", L"IDS_CONFIRMATION_CAPTION", 256},
+        {"long name, bad address", std::wstring(257, L'n'), L"not an address",
+         SenderCheck::NameTooLong, L"IDS_TEXT_TOO_LONG_MSG", L"IDS_CONFIRMATION_CAPTION", 256},
+        {"bad address", L"", L"nope", SenderCheck::NotAnEmailAddress, L"IDS_WRONG_EMAILADDR_MSG",
+         L"IDS_CONFIRMATION_CAPTION", 0},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.label);
+        const SenderValidation result = ValidateSender(each.name, each.address);
+        EXPECT_EQ(each.check, result.check);
+        EXPECT_EQ(each.messageId, result.messageId);
+        EXPECT_EQ(each.captionId, result.captionId);
+        EXPECT_EQ(each.number, result.number);
+    }
 }
 
-TEST(SenderValidation, Name256_IsAcceptedAnd257Refused) {
+TEST(SenderValidation, Name256Accepted_AndNameTrimmed) {
     EXPECT_TRUE(ValidateSender(std::wstring(256, L'n'), L"a@b.com").Accepted());
-    const SenderValidation refused = ValidateSender(std::wstring(257, L'n'), L"a@b.com");
-    EXPECT_EQ(SenderCheck::NameTooLong, refused.check);
-    EXPECT_EQ(L"IDS_TEXT_TOO_LONG_MSG", refused.messageId);
-    EXPECT_EQ(L"IDS_CONFIRMATION_CAPTION", refused.captionId);
-    EXPECT_EQ(256, refused.number);
-}
-
-TEST(SenderValidation, AddressIsCheckedBeforeName) {
-    const SenderValidation result =
-        ValidateSender(std::wstring(300, L'n'), std::wstring(300, L'a'));
-    EXPECT_EQ(SenderCheck::AddressTooLong, result.check);
-    EXPECT_EQ(L"IDS_TEXT_TOO_LONG_MSG", result.messageId);
-    EXPECT_EQ(256, result.number);
-}
-
-TEST(SenderValidation, LengthIsCheckedBeforeThePattern) {
-    EXPECT_EQ(SenderCheck::NameTooLong,
-              ValidateSender(std::wstring(257, L'n'), L"not an address").check);
-}
-
-TEST(SenderValidation, WrongAddress_GivesTheAddressMessageWithoutNumber) {
-    const SenderValidation result = ValidateSender(L"", L"nope");
-    EXPECT_EQ(L"IDS_WRONG_EMAILADDR_MSG", result.messageId);
-    EXPECT_EQ(L"IDS_CONFIRMATION_CAPTION", result.captionId);
-    EXPECT_EQ(0, result.number);
-}
-
-TEST(SenderValidation, NameIsTrimmed) {
     EXPECT_EQ(L"Ann Lee", ValidateSender(L"\t Ann Lee\r\n", L"a@b.com").name);
 }
 
@@ -146,25 +142,18 @@ TEST_P(SenderValidationNameTest, ValidateSender_RefusesNamesThatWouldBreakTheFil
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, SenderValidationNameTest,
-                         ::testing::Values(NameCase{"Empty", L"", true},
-                                           NameCase{"Unicode", L"J\u00fcrgen \u4e2d", true},
-                                           NameCase{"InnerTab", L"a\tb", true},
-                                           NameCase{"AngleBrackets", L"<Ann> <b@c.com>", true},
-                                           NameCase{"InnerLineFeed", L"a\nb", false},
-                                           NameCase{"InnerCarriageReturn", L"a\rb", false},
-                                           NameCase{"Nul", std::wstring(L"a\0b", 3), false},
-                                           NameCase{"NameCloseTag", L"a<\\SN_ATTR>b", false},
-                                           NameCase{"AddressOpenTag", L"<SA_ATTR>", false},
-                                           NameCase{"RecordTag", L"<\\BL_REC>", false},
-                                           NameCase{"OtherRecordTag", L"<WL_REC>", false}),
-                         [](const auto& test) { return std::string(test.param.label); });
-
-TEST(SenderValidation, UnpairedSurrogateNameIsRefused) {
-    std::wstring name = L"a";
-    name.push_back(static_cast<wchar_t>(0xD800));
-    EXPECT_EQ(SenderCheck::NameNotPlainText, ValidateSender(name, L"a@b.com").check);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Names, SenderValidationNameTest,
+    ::testing::Values(
+        NameCase{"Empty", L"", true}, NameCase{"Unicode", L"J\u00fcrgen \u4e2d", true},
+        NameCase{"InnerTab", L"a\tb", true}, NameCase{"AngleBrackets", L"<Ann> <b@c.com>", true},
+        NameCase{"InnerLineFeed", L"a\nb", false}, NameCase{"InnerCarriageReturn", L"a\rb", false},
+        NameCase{"Nul", std::wstring(L"a\0b", 3), false},
+        NameCase{"NameCloseTag", L"a<\\SN_ATTR>b", false},
+        NameCase{"AddressOpenTag", L"<SA_ATTR>", false},
+        NameCase{"RecordTag", L"<\\BL_REC>", false}, NameCase{"OtherRecordTag", L"<WL_REC>", false},
+        NameCase{"UnpairedSurrogate", {L'a', wchar_t(0xD800)}, false}),
+    [](const auto& test) { return std::string(test.param.label); });
 
 // The hand-written matcher must agree with the pattern on every text validation hands it:
 // characters up to U+0080, no "*". The corpus is built from address-shaped texts (local part,

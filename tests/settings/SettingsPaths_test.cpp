@@ -30,55 +30,39 @@ std::wstring Native(std::wstring path) {
     return path;
 }
 
-void SetIdentityValue(MemoryRegistry& registry, const std::wstring& name,
-                      const std::wstring& value) {
-    ZelCommon::Storage::Registry key(registry);
-    key.Create(RegRoot::CurrentUser, L"Identities", 0);
-    key.SetString(name, value);
-}
-
-TEST(IdentityName, NoIdentitiesKey_IsDefault) {
-    MemoryRegistry registry;
-    EXPECT_EQ(IdentityName(registry), L"Default");
-    EXPECT_EQ(registry.OpenHandleCount(), 0u);
-}
-
-TEST(IdentityName, LastUserId_WinsOverDefaultUserId) {
-    MemoryRegistry registry;
-    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
-    SetIdentityValue(registry, L"Last User ID", L"{LAST}");
-    EXPECT_EQ(IdentityName(registry), L"{LAST}");
-    EXPECT_EQ(registry.OpenHandleCount(), 0u);
-}
-
-TEST(IdentityName, MissingLastUserId_FallsBackToDefaultUserId) {
-    MemoryRegistry registry;
-    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
-    EXPECT_EQ(IdentityName(registry), L"{DEFAULT}");
-}
-
-TEST(IdentityName, EmptyLastUserId_FallsBackToDefaultUserId) {
-    MemoryRegistry registry;
-    SetIdentityValue(registry, L"Last User ID", L"");
-    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
-    EXPECT_EQ(IdentityName(registry), L"{DEFAULT}");
-}
-
-TEST(IdentityName, BothEmpty_IsDefault) {
-    MemoryRegistry registry;
-    SetIdentityValue(registry, L"Last User ID", L"");
-    SetIdentityValue(registry, L"Default User ID", L"");
-    EXPECT_EQ(IdentityName(registry), L"Default");
-}
-
-TEST(IdentityName, NonStringValue_CountsAsMissing) {
-    MemoryRegistry registry;
-    ZelCommon::Storage::Registry key(registry);
-    key.Create(RegRoot::CurrentUser, L"Identities", 0);
-    key.SetDword(L"Last User ID", 7);
-    key.Close(false);
-    SetIdentityValue(registry, L"Default User ID", L"{DEFAULT}");
-    EXPECT_EQ(IdentityName(registry), L"{DEFAULT}");
+// The last user's identity, else the default user's, else "Default"; an empty or non-text value
+// counts as missing, and no key is left open.
+TEST(IdentityName, LastThenDefaultUserId_ElseDefault) {
+    const struct {
+        const char* name;
+        const wchar_t* last;  // nullptr: absent
+        const wchar_t* byDefault;
+        const wchar_t* expected;
+    } cases[] = {
+        {"no Identities key", nullptr, nullptr, L"Default"},
+        {"last wins", L"{LAST}", L"{DEFAULT}", L"{LAST}"},
+        {"last missing", nullptr, L"{DEFAULT}", L"{DEFAULT}"},
+        {"last empty", L"", L"{DEFAULT}", L"{DEFAULT}"},
+        {"both empty", L"", L"", L"Default"},
+        {"last a number", L"#7", L"{DEFAULT}", L"{DEFAULT}"},
+    };
+    for (const auto& each : cases) {
+        MemoryRegistry registry;
+        if (each.last || each.byDefault) {
+            ZelCommon::Storage::Registry key(registry);
+            key.Create(RegRoot::CurrentUser, L"Identities", 0);
+            if (each.last && each.last[0] == L'#') {
+                key.SetDword(L"Last User ID", 7);
+            } else if (each.last) {
+                key.SetString(L"Last User ID", each.last);
+            }
+            if (each.byDefault) {
+                key.SetString(L"Default User ID", each.byDefault);
+            }
+        }
+        EXPECT_EQ(IdentityName(registry), each.expected) << each.name;
+        EXPECT_EQ(registry.OpenHandleCount(), 0u) << each.name;
+    }
 }
 
 TEST(MakeSettingsPaths, BuildsEveryPathFromTheThreeFacts) {
@@ -119,7 +103,11 @@ TEST(ComputeSettingsPaths, LastUserId_NamesTheUserFolder) {
     process.SetModuleFilePath(temp.File(L"ORVA_WLMA.dll"));
     process.SetCommonAppDataFolder(temp.Path());
     MemoryRegistry registry;
-    SetIdentityValue(registry, L"Last User ID", L"{8E4C}");
+    {
+        ZelCommon::Storage::Registry key(registry);
+        key.Create(RegRoot::CurrentUser, L"Identities", 0);
+        key.SetString(L"Last User ID", L"{8E4C}");
+    }
 
     const SettingsPaths paths = ComputeSettingsPaths(process, registry);
 

@@ -192,33 +192,37 @@ TEST_F(OnlineHelpTest, BaseFolder_NamesWhereTheSettingsFileIs) {
               L"https://help.example/en-US/1700/link-filter.htm");
 }
 
-TEST_F(OnlineHelpTest, MissingRootKey_LogsWhereItLookedAndGivesNothing) {
-    WriteHelp(L"ProductRootRegKey", L"SOFTWARE\\Nowhere");
-    EXPECT_EQ(Address(), L"");
-    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get Product Root RegKey failed: from=[" +
-                                         InstallFile() + L"], result=[SOFTWARE\\Nowhere]"));
-}
-
-TEST_F(OnlineHelpTest, MissingSite_LogsTheUrlStep) {
-    WriteHelp(L"URLKey", L"OnlineHelp\\Site");
-    EXPECT_EQ(Address(), L"");
-    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get URL SubKey failed: from=[" +
-                                         std::wstring(kRoot) + L"\\OnlineHelp\\Site], result=[]"));
-}
-
-TEST_F(OnlineHelpTest, MissingProductId_LogsThePidStep) {
-    WriteHelp(L"PIDKey", L"ProductId");
-    EXPECT_EQ(Address(), L"");
-    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get PID SubKey failed: from=[" +
-                                         std::wstring(kRoot) + L"\\ProductId], result=[]"));
-}
-
-TEST_F(OnlineHelpTest, UnlistedTopic_LogsTheTopicStep) {
-    ZelResourceStringLoader loader(Services());
-    TakeLines();
-    EXPECT_EQ(loader.GetORVA_OLH_URL(L"FunID_ADVANCED_SETTINGS", L"ORVA_WLM.ini", L""), L"");
-    EXPECT_THAT(HelpLines(), ElementsAre(L"!!! Get FunID failed: from=[" + std::wstring(kRoot) +
-                                         L"\\], result=[]"));
+// Each part that cannot be found gives no address and one line naming where it was looked for.
+TEST_F(OnlineHelpTest, MissingPart_LogsTheStepAndGivesNothing) {
+    const std::wstring root = kRoot;
+    const struct {
+        const wchar_t* helpKey;  // the entry of the installation file pointed elsewhere
+        const wchar_t* pointTo;
+        const wchar_t* topic;
+        std::wstring line;
+    } cases[] = {
+        {L"ProductRootRegKey", L"SOFTWARE\\Nowhere", L"FunID_LINK_FILTER",
+         L"!!! Get Product Root RegKey failed: from=[" + InstallFile() +
+             L"], result=[SOFTWARE\\Nowhere]"},
+        {L"URLKey", L"OnlineHelp\\Site", L"FunID_LINK_FILTER",
+         L"!!! Get URL SubKey failed: from=[" + root + L"\\OnlineHelp\\Site], result=[]"},
+        {L"PIDKey", L"ProductId", L"FunID_LINK_FILTER",
+         L"!!! Get PID SubKey failed: from=[" + root + L"\\ProductId], result=[]"},
+        {nullptr, nullptr, L"FunID_ADVANCED_SETTINGS",
+         L"!!! Get FunID failed: from=[" + root + L"\\], result=[]"},
+    };
+    for (const auto& each : cases) {
+        WriteHelp(L"ProductRootRegKey", kRoot);
+        WriteHelp(L"URLKey", L"OnlineHelp\\URL");
+        WriteHelp(L"PIDKey", L"PID");
+        if (each.helpKey) {
+            WriteHelp(each.helpKey, each.pointTo);
+        }
+        ZelResourceStringLoader loader(Services());
+        TakeLines();
+        EXPECT_EQ(loader.GetORVA_OLH_URL(each.topic, L"ORVA_WLM.ini", L""), L"");
+        EXPECT_THAT(HelpLines(), ElementsAre(each.line));
+    }
 }
 
 struct JoinCase {

@@ -84,14 +84,20 @@ protected:
 
 const std::string kHead = "1234:000b 2024/01/31 09:05:07:042 ";
 
-TEST_F(DebugLogTest, NeverOpened_WritesNothingAnywhere) {
-    m_log.WriteLine(L"line\n");
-    m_log.LogMessage(0, "a.cpp", 1, L"message %d", 1);
-    m_log.LogText(L"@@@ %s  IN", L"Step");
-    { ScopeTracer tracer(L"CFoo::Bar", "Foo.cpp", 10, m_log); }
-    EXPECT_FALSE(m_log.IsLogOn());
-    EXPECT_TRUE(Files().empty());
-    EXPECT_TRUE(m_debugger.Texts().empty());
+// Never opened, or opened in a folder that does not exist: every kind of write is dropped.
+TEST_F(DebugLogTest, NotOpenOrOpenFailed_WritesNothingAnywhere) {
+    for (const bool tryOpen : {false, true}) {
+        if (tryOpen) {
+            m_log.OpenLog((m_folder / "missing" / "ORVAAgent.log").wstring());
+        }
+        m_log.WriteLine(L"line\n");
+        m_log.LogMessage(0, "a.cpp", 1, L"message %d", 1);
+        m_log.LogText(L"@@@ %s  IN", L"Step");
+        { ScopeTracer tracer(L"CFoo::Bar", "Foo.cpp", 10, m_log); }
+        EXPECT_FALSE(m_log.IsLogOn());
+        EXPECT_TRUE(Files().empty());
+        EXPECT_TRUE(m_debugger.Texts().empty());
+    }
 }
 
 TEST_F(DebugLogTest, OpenLog_CreatesTodaysDatedFile) {
@@ -231,15 +237,6 @@ TEST_F(DebugLogTest, NewDaysFileCannotOpen_LogGoesOffWithoutWriting) {
     m_log.WriteLine(L"also lost\n");
     EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), "");
     EXPECT_EQ(m_debugger.Texts().size(), 1u);
-}
-
-TEST_F(DebugLogTest, OpenFails_LogStaysOffAndSilent) {
-    m_log.OpenLog((m_folder / "missing" / "ORVAAgent.log").wstring());
-    m_log.WriteLine(L"x\n");
-    m_log.LogMessage(0, "a.cpp", 1, L"y");
-    EXPECT_FALSE(m_log.IsLogOn());
-    EXPECT_TRUE(m_debugger.Texts().empty());
-    EXPECT_TRUE(Files().empty());
 }
 
 TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {

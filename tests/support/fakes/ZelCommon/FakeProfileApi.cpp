@@ -6,10 +6,6 @@
 namespace ZelCommon::Fakes {
 namespace {
 
-std::optional<std::wstring> Optional(const wchar_t* text) {
-    return text ? std::optional<std::wstring>(text) : std::nullopt;
-}
-
 uint32_t CopyValue(wchar_t* buffer, uint32_t size, std::wstring_view text) {
     const size_t count = std::min<size_t>(text.size(), size - 1);
     text.copy(buffer, count);
@@ -46,12 +42,6 @@ uint32_t CopyList(wchar_t* buffer, uint32_t size, const std::vector<std::wstring
 }
 
 }  // namespace
-
-void FakeProfileApi::Record(Function function, const wchar_t* section, const wchar_t* key,
-                            const wchar_t* text, uint32_t size, const wchar_t* file) {
-    m_calls.push_back(
-        Call{function, Optional(section), Optional(key), Optional(text), size, file ? file : L""});
-}
 
 FakeProfileApi::Section* FakeProfileApi::Find(const std::wstring& section) {
     auto found = std::find_if(m_sections.begin(), m_sections.end(),
@@ -99,8 +89,7 @@ bool FakeProfileApi::HasSection(const std::wstring& section) const {
 
 uint32_t FakeProfileApi::GetString(const wchar_t* section, const wchar_t* key,
                                    const wchar_t* defaultValue, wchar_t* buffer, uint32_t size,
-                                   const wchar_t* file) {
-    Record(Function::GetString, section, key, defaultValue, size, file);
+                                   const wchar_t* /*file*/) {
     if (!buffer || size == 0) {
         return 0;
     }
@@ -125,8 +114,7 @@ uint32_t FakeProfileApi::GetString(const wchar_t* section, const wchar_t* key,
 }
 
 uint32_t FakeProfileApi::GetInt(const wchar_t* section, const wchar_t* key, int32_t defaultValue,
-                                const wchar_t* file) {
-    Record(Function::GetInt, section, key, nullptr, 0, file);
+                                const wchar_t* /*file*/) {
     const std::optional<std::wstring> value = section && key ? Value(section, key) : std::nullopt;
     if (!value || value->empty()) {
         return static_cast<uint32_t>(defaultValue);
@@ -142,8 +130,7 @@ uint32_t FakeProfileApi::GetInt(const wchar_t* section, const wchar_t* key, int3
 }
 
 uint32_t FakeProfileApi::GetSection(const wchar_t* section, wchar_t* buffer, uint32_t size,
-                                    const wchar_t* file) {
-    Record(Function::GetSection, section, nullptr, nullptr, size, file);
+                                    const wchar_t* /*file*/) {
     std::vector<std::wstring> lines;
     if (const Section* found = section ? Find(section) : nullptr) {
         for (const auto& line : found->lines) {
@@ -153,8 +140,7 @@ uint32_t FakeProfileApi::GetSection(const wchar_t* section, wchar_t* buffer, uin
     return buffer ? CopyList(buffer, size, lines) : 0;
 }
 
-uint32_t FakeProfileApi::GetSectionNames(wchar_t* buffer, uint32_t size, const wchar_t* file) {
-    Record(Function::GetSectionNames, nullptr, nullptr, nullptr, size, file);
+uint32_t FakeProfileApi::GetSectionNames(wchar_t* buffer, uint32_t size, const wchar_t* /*file*/) {
     std::vector<std::wstring> names;
     for (const Section& s : m_sections) {
         names.push_back(s.name);
@@ -163,8 +149,7 @@ uint32_t FakeProfileApi::GetSectionNames(wchar_t* buffer, uint32_t size, const w
 }
 
 bool FakeProfileApi::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value,
-                                 const wchar_t* file) {
-    Record(Function::WriteString, section, key, value, 0, file);
+                                 const wchar_t* /*file*/) {
     if (!section && !key && !value) {
         return false;  // a flush, which Windows answers with false
     }

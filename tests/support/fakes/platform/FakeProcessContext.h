@@ -50,10 +50,6 @@ public:
         std::lock_guard lock(m_mutex);
         return m_texts;
     }
-    void Clear() {
-        std::lock_guard lock(m_mutex);
-        m_texts.clear();
-    }
 
 private:
     mutable std::mutex m_mutex;
