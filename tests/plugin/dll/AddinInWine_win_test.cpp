@@ -11,6 +11,7 @@
 #include "common_src/platform/TextCodec.h"
 #include "common_src/platform/UniqueAny_win.h"
 #include "plugin/host/FakeHostObject_win.h"
+#include "plugin/host/FakeRibbonHost_win.h"
 #include "plugin/protocol/AgentProtocol.h"
 #include "plugin/protocol/ControllerProtocol.h"
 #include "support/FileBytes.h"
@@ -173,10 +174,17 @@ TEST_F(AddinInWine, CopyDataFromTheAgentsProcess_AWholeFlaggedRecordAsksToDelete
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+IUnknown& Identity(Testing::FakeHostObject& object) {
+    return static_cast<IConnectionPointContainer&>(object);
+}
+IUnknown& Identity(Testing::FakeRibbonHost& object) {
+    return static_cast<IDispatch&>(object);
+}
+
 // Hands out one fake host object, as the plug-in host's class factory would.
 class FakeHostFactory final : public IClassFactory {
 public:
-    explicit FakeHostFactory(Testing::FakeHostObject& object) : m_object(object) {}
+    explicit FakeHostFactory(IUnknown& object) : m_object(object) {}
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
         if (iid != IID_IUnknown && iid != IID_IClassFactory) {
@@ -194,18 +202,19 @@ public:
         if (outer != nullptr) {
             return CLASS_E_NOAGGREGATION;
         }
-        return static_cast<IConnectionPointContainer&>(m_object).QueryInterface(iid, object);
+        return m_object.QueryInterface(iid, object);
     }
     STDMETHODIMP LockServer(BOOL) override { return S_OK; }
 
 private:
-    Testing::FakeHostObject& m_object;
+    IUnknown& m_object;
     ULONG m_references = 0;
 };
 #pragma GCC diagnostic pop
 
 // One host object registered in this process under its ProgID, as the plug-in host registers
 // its classes, for as long as the registration lives.
+template <class Object>
 class RegisteredHostClass {
 public:
     RegisteredHostClass(const wchar_t* progId, const CLSID& classId) : m_progId(progId) {
@@ -225,11 +234,11 @@ public:
     RegisteredHostClass(const RegisteredHostClass&) = delete;
     RegisteredHostClass& operator=(const RegisteredHostClass&) = delete;
 
-    Testing::FakeHostObject object;
+    Object object;
 
 private:
     std::wstring m_progId;
-    FakeHostFactory m_factory{object};
+    FakeHostFactory m_factory{Identity(object)};
     DWORD m_cookie = 0;
 };
 
@@ -244,18 +253,26 @@ TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
     ASSERT_TRUE(addin) << ::GetLastError();
     ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
     {
-        RegisteredHostClass init(L"NktWLMailApiInit.WLMailApiInit", kInitClass);
-        RegisteredHostClass api(L"NktWLMailApi.WLMailApi", kApiClass);
+        RegisteredHostClass<Testing::FakeHostObject> init(L"NktWLMailApiInit.WLMailApiInit",
+                                                          kInitClass);
+        RegisteredHostClass<Testing::FakeRibbonHost> api(L"NktWLMailApi.WLMailApi", kApiClass);
+        Testing::FakeHostObject& apiEvents = api.object.events;
 
         ASSERT_EQ(InitializePlugin(), TRUE);
         ASSERT_NE(init.object.sink, nullptr) << "the init sink was not advised";
         ASSERT_NE(Testing::WaitForWindowTitled(kAgentTitle), nullptr);
 
         EXPECT_EQ(init.object.Fire(1, {}), S_OK);  // ready
-        ASSERT_NE(api.object.sink, nullptr) << "the API sink was not advised";
+        ASSERT_NE(apiEvents.sink, nullptr) << "the API sink was not advised";
         EXPECT_TRUE(LogShows("@@@ Creating NktWLMailApi::WLMailApi !"));
+        // The ribbon: the group, the logo with five entries, the two reporting buttons.
+        EXPECT_TRUE(LogShows("dump button ID: 500, 501, 503, 504, 505, 506, 507, 508, 510"))
+            << LogText();
+        ASSERT_EQ(api.object.entries.size(), 5u);
+        EXPECT_EQ(api.object.entries[1]->points.Fire(1, {}), S_OK);  // statistics
+        EXPECT_TRUE(LogShows("### The statistics dialog is not part of this build yet"));
 
-        EXPECT_EQ(api.object.Fire(3, {Testing::Int64Arg(0x100000002)}), S_OK);
+        EXPECT_EQ(apiEvents.Fire(3, {Testing::Int64Arg(0x100000002)}), S_OK);
         EXPECT_TRUE(
             LogShows("@@@ CWLMAApiEventSink::OnFolderSelectionChanged folderId=[0x100000002]"));
 
@@ -267,10 +284,14 @@ TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
         EXPECT_TRUE(LogShows("CToolBarWnd::OnClose() wait for on shutdown success"));
 
         EXPECT_EQ(init.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
-        EXPECT_EQ(api.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+        EXPECT_EQ(apiEvents.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+        for (const auto& entry : api.object.entries) {
+            EXPECT_EQ(entry->points.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+        }
         addin.reset();
         EXPECT_EQ(init.object.references, 0u);
         EXPECT_EQ(api.object.references, 0u);
+        EXPECT_EQ(apiEvents.references, 0u);
     }
     ::CoUninitialize();
 }
@@ -280,8 +301,9 @@ TEST_F(AddinInWine, UnloadBeforeTheHostsShutdown_UnadvisesAndReleasesTheHostsObj
     ASSERT_TRUE(addin) << ::GetLastError();
     ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
     {
-        RegisteredHostClass init(L"NktWLMailApiInit.WLMailApiInit", kInitClass);
-        RegisteredHostClass api(L"NktWLMailApi.WLMailApi", kApiClass);
+        RegisteredHostClass<Testing::FakeHostObject> init(L"NktWLMailApiInit.WLMailApiInit",
+                                                          kInitClass);
+        RegisteredHostClass<Testing::FakeHostObject> api(L"NktWLMailApi.WLMailApi", kApiClass);
         ASSERT_EQ(InitializePlugin(), TRUE);
         ASSERT_NE(Testing::WaitForWindowTitled(kAgentTitle), nullptr);
         EXPECT_EQ(init.object.Fire(1, {}), S_OK);  // ready

@@ -102,6 +102,7 @@ protected:
 // The host's API object as far as the ribbon goes: records each call as
 // "Member(arg, ...)" with strings quoted, hands out ids from 500 and makes every drop-down entry
 // an object of its own. `failing` names a member that fails as a host does, with a description.
+// Its own events come from `events`.
 class FakeRibbonHost final : public FakeAutomationObject {
 public:
     FakeRibbonHost()
@@ -112,8 +113,13 @@ public:
     std::vector<std::wstring> calls;
     std::vector<std::unique_ptr<FakeRibbonEntry>> entries;
     std::wstring failing;
+    FakeHostObject events;
 
 protected:
+    HRESULT QueryOther(REFIID iid, void** object) override {
+        return iid == IID_IConnectionPointContainer ? events.QueryInterface(iid, object)
+                                                    : FakeAutomationObject::QueryOther(iid, object);
+    }
     HRESULT OnCall(const std::wstring& member, const std::vector<VARIANT>& args, VARIANT* result,
                    EXCEPINFO* exception) override {
         std::wstring call = member + L"(";
