@@ -75,6 +75,21 @@ TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
         std::wstring::npos);
 }
 
+// An IMAP or web-mail default account, read from the user's account files, switches the add-in
+// off once the ribbon is built: the notice, the flag, the agent told, the switch offering "on".
+TEST(MailClientScenario, UnservedDefaultAccount_SwitchesTheAddinOff) {
+    for (const AccountKind kind : {AccountKind::Imap, AccountKind::WebMail}) {
+        const std::vector<ScenarioStep> steps = RunMailClientScenario(16, kind);
+        EXPECT_TRUE(HasInOrder(steps[1].entries,
+                               {kind == AccountKind::Imap ? L"Dafault account is IMAP protocol"
+                                                          : L"Dafault account is HTTP protocol",
+                                L"dialog unsupported", L"EnableTBar = \"0\"",
+                                L"post " + kAgent + L" 1069 0 0", L"\"Turn Protection On\""}));
+    }
+    const std::vector<ScenarioStep> pop = RunMailClientScenario(16, AccountKind::Pop);
+    EXPECT_FALSE(HasInOrder(pop[1].entries, {L"dialog unsupported"}));
+}
+
 TEST(MailClientScenario, Version17_StopsTheAgentAndBuildsNothing) {
     const std::vector<ScenarioStep> steps = RunMailClientScenario(17);
     EXPECT_TRUE(HasInOrder(steps[1].entries,

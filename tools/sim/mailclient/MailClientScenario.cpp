@@ -20,7 +20,7 @@ constexpr uint64_t kSpamMessage = 0x2A;
 
 }  // namespace
 
-std::vector<ScenarioStep> RunMailClientScenario(int mailClientVersion) {
+std::vector<ScenarioStep> RunMailClientScenario(int mailClientVersion, AccountKind defaultAccount) {
     const StepScript script[] = {
         {L"The host loads the add-in and calls InitializePlugin",
          [](SimulatedMailClient& client) { client.LoadAddin(); }},
@@ -49,7 +49,7 @@ std::vector<ScenarioStep> RunMailClientScenario(int mailClientVersion) {
         {L"The mail client shuts down", [](SimulatedMailClient& client) { client.ShutDown(); }},
     };
 
-    SimulatedMailClient client(mailClientVersion);
+    SimulatedMailClient client(mailClientVersion, defaultAccount);
     std::vector<ScenarioStep> steps;
     int number = 0;
     for (const StepScript& step : script) {

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "SimulatedAccounts.h"
+
 namespace Orva::Sim {
 
 // One numbered step of the scenario and what happened during it, as journal entries.
@@ -12,9 +14,10 @@ struct ScenarioStep {
     std::vector<std::wstring> entries;
 };
 
-// The add-in's life in a mail client of the given major version: loaded, ready, used (a folder,
-// a report, a clean-up asked by the agent, the suite taking over, the switch turned off) and
-// shut down.
-std::vector<ScenarioStep> RunMailClientScenario(int mailClientVersion);
+// The add-in's life in a mail client of the given major version whose user's default account is
+// of the given kind: loaded, ready, used (a folder, a report, a clean-up asked by the agent, the
+// suite taking over, the switch turned off) and shut down.
+std::vector<ScenarioStep> RunMailClientScenario(int mailClientVersion,
+                                                AccountKind defaultAccount = AccountKind::Pop);
 
 }  // namespace Orva::Sim

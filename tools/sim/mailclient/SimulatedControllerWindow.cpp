@@ -27,6 +27,7 @@ SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
       m_strings(strings, installFile, process.profile),
       m_ribbon(m_host.toolbar, m_strings, process.process,
                process.StringServices().defaultInstallFolder, process.log),
+      m_account({process.registry, process.process, process.log}),
       m_controller(
           Orva::Plugin::ControllerPorts{process.messaging, process.clock, m_shutdownDone, m_hook,
                                         m_shell, m_keyboard, process.process, process.debugger,
@@ -37,8 +38,8 @@ SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
     ZelCommon::Fakes::FakeJournal* journal = &process.journal;
     for (ZelCommon::Fakes::JournalNotes* fake :
          std::initializer_list<ZelCommon::Fakes::JournalNotes*>{
-             &m_host, &m_classic, &m_spamFolder, &m_account, &m_dialogs, &m_calls, &m_shutdownDone,
-             &m_hook, &m_shell}) {
+             &m_host, &m_classic, &m_spamFolder, &m_dialogs, &m_calls, &m_shutdownDone, &m_hook,
+             &m_shell}) {
         fake->SetJournal(journal);
     }
     // The mail client 14 has its rebar from the start, so the classic band goes in at once.

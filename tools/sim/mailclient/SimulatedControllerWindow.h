@@ -10,6 +10,7 @@
 #include "SimulatedProcess.h"
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/controller/LoaderStrings.h"
+#include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarController.h"
 #include "support/fakes/platform/FakeSystemPorts.h"
@@ -19,7 +20,8 @@ namespace Orva::Sim {
 
 // The controller window in the simulated process: a window of the controller's class and title
 // that hands every message to the real CToolBarController, which works on recording fakes of
-// the host and of the add-in's parts, and on the real ribbon and texts over the fake host. Messages
+// the host and of the add-in's parts, and on the real ribbon, texts and account check over the
+// fake host and the simulated machine. Messages
 // arrive as Windows delivers them: a send runs at once, a post waits in the message loop. Opened
 // with WM_CREATE; WM_CLOSE destroys it.
 class SimulatedControllerWindow final : public Orva::Plugin::IControllerHandle {
@@ -60,7 +62,7 @@ private:
     Orva::Plugin::CRibbonToolbar m_ribbon;
     ZelCommon::Fakes::FakeClassicBand m_classic;
     ZelCommon::Fakes::FakeSpamFolder m_spamFolder;
-    ZelCommon::Fakes::FakeAccountCheck m_account;
+    Orva::Plugin::CMailClientAccountCheck m_account;
     ZelCommon::Fakes::FakeCommandDialogs m_dialogs;
     ZelCommon::Fakes::FakeControllerWindow m_calls;
     ZelCommon::Fakes::FakeEvent m_shutdownDone;

@@ -46,8 +46,8 @@ std::wstring DescribeRibbonItem(const ZelCommon::Fakes::FakeRibbonItem& item) {
 
 }  // namespace
 
-SimulatedMailClient::SimulatedMailClient(int mailClientVersion)
-    : m_process(mailClientVersion),
+SimulatedMailClient::SimulatedMailClient(int mailClientVersion, AccountKind defaultAccount)
+    : m_process(mailClientVersion, defaultAccount),
       m_relay(m_process.messaging, m_process.log),
       m_bandAgentLink(m_process.messaging, m_process.clock, m_process.launcher, m_process.log,
                       m_process.AddinFolder()),

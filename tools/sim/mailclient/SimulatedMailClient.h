@@ -21,7 +21,8 @@ namespace Orva::Sim {
 // action the client's message loop runs until it is idle and a second goes by.
 class SimulatedMailClient {
 public:
-    explicit SimulatedMailClient(int mailClientVersion);
+    explicit SimulatedMailClient(int mailClientVersion,
+                                 AccountKind defaultAccount = AccountKind::Pop);
     ~SimulatedMailClient();
     SimulatedMailClient(const SimulatedMailClient&) = delete;
     SimulatedMailClient& operator=(const SimulatedMailClient&) = delete;

@@ -17,11 +17,13 @@ constexpr uint32_t kCloseMessage = 16;  // WM_CLOSE
 
 }  // namespace
 
-SimulatedProcess::SimulatedProcess(int mailClientVersion)
+SimulatedProcess::SimulatedProcess(int mailClientVersion, AccountKind defaultAccount)
     : profile(ZelCommon::Storage::SystemProfileApi()), version(mailClientVersion) {
     m_addinFolder = CreatedFolder(L"Addin");
     process.SetModuleFilePath(ZelCommon::Path::ChildFile(m_addinFolder, L"ORVA_WLMA.dll"));
     process.SetCommonAppDataFolder(CreatedFolder(L"ProgramData"));
+    process.SetLocalAppDataFolder(CreatedFolder(L"LocalAppData"));
+    CreateMailAccounts(process.LocalAppDataFolder(), defaultAccount, registry);
     // A quiet Sunday morning, so that the log's head and the daily log file are the same on
     // every run.
     clock.Set(ZelCommon::Fakes::FakeClock::At(2026, 11, 22, 9, 30));

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "JournalingProfileApi.h"
+#include "SimulatedAccounts.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "settings/localisation/StringLoaderServices.h"
@@ -25,7 +26,7 @@ namespace Orva::Sim {
 // processes and time simulated. Everything observable goes into one journal, in order.
 class SimulatedProcess {
 public:
-    explicit SimulatedProcess(int mailClientVersion);
+    SimulatedProcess(int mailClientVersion, AccountKind defaultAccount);
     SimulatedProcess(const SimulatedProcess&) = delete;
     SimulatedProcess& operator=(const SimulatedProcess&) = delete;
 

@@ -1,6 +1,7 @@
 #include "SimulatorOptions.h"
 
 #include <charconv>
+#include <optional>
 
 #include "common_src/platform/TextCodec.h"
 
@@ -33,6 +34,14 @@ SimulatorOptions ParseSimulatorOptions(std::span<const std::string> arguments) {
                 return options;
             }
             options.mailClientVersion = version;
+        } else if (argument == "--default-account") {
+            const std::optional<AccountKind> kind =
+                index + 1 < arguments.size() ? AccountKindNamed(arguments[++index]) : std::nullopt;
+            if (!kind) {
+                options.error = L"--default-account needs pop, imap or web";
+                return options;
+            }
+            options.defaultAccount = *kind;
         } else {
             options.error = L"unknown argument: " + ZelCommon::Text::Utf8ToWide(argument);
             return options;
@@ -42,7 +51,7 @@ SimulatorOptions ParseSimulatorOptions(std::span<const std::string> arguments) {
 }
 
 std::wstring SimulatorUsage() {
-    return L"usage: orva-mailclient-sim [--client-version N] [--help]\n"
+    return L"usage: orva-mailclient-sim [--client-version N] [--default-account KIND] [--help]\n"
            L"\n"
            L"Runs the add-in's application object and controller inside a simulated mail client\n"
            L"and prints, step by step, what the add-in did: its log lines, the messages to the\n"
@@ -51,6 +60,8 @@ std::wstring SimulatorUsage() {
            L"  --client-version N  the mail client's major version (default 16): 15 and 16 have\n"
            L"                      the ribbon, 14 the classic toolbar band, others are not\n"
            L"                      supported\n"
+           L"  --default-account KIND  the user's default account: pop (default), or imap or\n"
+           L"                      web, which the add-in does not serve\n"
            L"  --help              this text\n";
 }
 

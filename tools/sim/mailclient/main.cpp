@@ -22,7 +22,8 @@ int main(int argc, char** argv) {
             std::cout << WideToUtf8(SimulatorUsage());
             return 0;
         }
-        const std::vector<ScenarioStep> steps = RunMailClientScenario(options.mailClientVersion);
+        const std::vector<ScenarioStep> steps =
+            RunMailClientScenario(options.mailClientVersion, options.defaultAccount);
         std::cout << WideToUtf8(RenderScenario(options.mailClientVersion, steps));
         return 0;
     } catch (const std::exception& error) {
