@@ -32,7 +32,8 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
       m_ribbon(m_host->Toolbar(), m_strings, SystemProcessContext(),
                Orva::Settings::DefaultInstallFolder(), m_log),
       m_accountCheck({ZelCommon::Storage::SystemRegistryApi(), SystemProcessContext(), m_log}),
-      m_pending(m_log) {}
+      m_pending(m_log),
+      m_dialogs(strings, SystemShellOpen(), m_pending, m_log) {}
 
 bool CSystemController::Open() {
     m_window = CToolBarWnd::Create(
@@ -41,7 +42,7 @@ bool CSystemController::Open() {
                         SystemShellOpen(), SystemKeyboard(), SystemProcessContext(),
                         SystemDebuggerOutput(), Orva::Settings::SystemOsInfo(), *m_host, m_version,
                         m_log},
-        ControllerParts{m_ribbon, m_pending, m_pending, m_accountCheck, m_pending, m_strings,
+        ControllerParts{m_ribbon, m_pending, m_pending, m_accountCheck, m_dialogs, m_strings,
                         m_settings, m_agent},
         m_log);
     return m_window != nullptr;

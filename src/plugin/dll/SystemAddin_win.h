@@ -8,6 +8,7 @@
 #include "common_src/platform/WindowProcedureHook.h"
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/agent/AgentLink.h"
+#include "plugin/controller/CommandDialogs.h"
 #include "plugin/controller/LoaderStrings.h"
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailClientVersion.h"
@@ -54,6 +55,7 @@ private:
     CRibbonToolbar m_ribbon;
     CMailClientAccountCheck m_accountCheck;
     CPendingParts m_pending;
+    CCommandDialogs m_dialogs;
     std::unique_ptr<CToolBarWnd> m_window;
 };
 

@@ -94,12 +94,20 @@ private:
 };
 
 // Records each address handed to the browser ("open <address>").
+// Records "open <address>"; a refusing shell opens nothing, as without a browser.
 class FakeShellOpen final : public Platform::IShellOpen, public JournalNotes {
 public:
     bool OpenAddress(const std::wstring& address) override {
         Note(L"open " + address);
+        if (refuses) {
+            return false;
+        }
+        opened = address;
         return true;
     }
+
+    bool refuses = false;
+    std::wstring opened;
 };
 
 class FakeKeyboard final : public Platform::IKeyboard {
