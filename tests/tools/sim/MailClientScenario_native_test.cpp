@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "common_src/platform/TextCodec.h"
 #include "plugin/protocol/AgentProtocol.h"
 #include "plugin/protocol/ControllerProtocol.h"
 #include "tools/sim/mailclient/ScenarioReport.h"
@@ -62,7 +63,9 @@ TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
     };
     for (size_t index = 0; index < steps.size(); ++index) {
         EXPECT_EQ(steps[index].number, static_cast<int>(index + 1));
-        EXPECT_TRUE(HasInOrder(steps[index].entries, expected[index])) << "step " << index + 1;
+        EXPECT_TRUE(HasInOrder(steps[index].entries, expected[index]))
+            << "step " << index + 1 << ":\n"
+            << ZelCommon::Text::WideToUtf8(RenderScenario(16, {steps[index]}));
     }
     // With the suite's window there, the not-spam click reaches no agent.
     EXPECT_FALSE(HasInOrder(steps[6].entries, {L" " + kAgent + L" "}));
