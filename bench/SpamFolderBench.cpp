@@ -16,8 +16,7 @@ using namespace Orva::MailStore;
 constexpr StoreId kAccount = 0x1F00000002;
 
 // A forced search of an account with 200 top-level folders (its deleted items, 198 others and
-// the spam folder, last):
-// what the default-account re-query costs the mail client's GUI thread.
+// the spam folder, last): what a default-account re-query costs the mail client's GUI thread.
 void BM_CreateSpamMailFolder(benchmark::State& state) {
     Fakes::FakeMailStore store;
     store.AddAccount(kAccount);
