@@ -19,24 +19,25 @@ namespace {
 using Microsoft::WRL::ComPtr;
 namespace C = StoreContract;
 
-// The arguments in their declared order, and the place of the result.
-using Member = std::function<HRESULT(const std::vector<VARIANT>& args, VARIANT* result)>;
+// Fills in the result from the arguments (in their declared order), or fails.
+using Member = std::function<HRESULT(const std::vector<VARIANT>& args, VARIANT& result)>;
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-// A host object that knows its members only by name, as the host's store objects do.
+// A host object that knows its members only by name, as the host's store objects do. A failing
+// member reports itself through EXCEPINFO, as automation objects do.
 class FakeDispatch final : public IDispatch {
 public:
     std::map<std::wstring, Member> members;
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        if (iid == IID_IUnknown || iid == IID_IDispatch) {
-            *object = static_cast<IDispatch*>(this);
-            AddRef();
-            return S_OK;
+        if (iid != IID_IUnknown && iid != IID_IDispatch) {
+            *object = nullptr;
+            return E_NOINTERFACE;
         }
-        *object = nullptr;
-        return E_NOINTERFACE;
+        *object = static_cast<IDispatch*>(this);
+        AddRef();
+        return S_OK;
     }
     STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
     STDMETHODIMP_(ULONG) Release() override {
@@ -51,30 +52,27 @@ public:
         return S_OK;
     }
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
-        const auto found = count == 1 ? members.find(names[0]) : members.end();
-        if (found == members.end()) {
-            *ids = DISPID_UNKNOWN;
-            return DISP_E_UNKNOWNNAME;
-        }
-        *ids = static_cast<DISPID>(std::distance(members.begin(), found)) + 1;
-        return S_OK;
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
+        const auto found = members.find(names[0]);
+        *ids = found == members.end() ? DISPID_UNKNOWN
+                                      : static_cast<DISPID>(std::distance(members.begin(), found));
+        return found == members.end() ? DISP_E_UNKNOWNNAME : S_OK;
     }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
                         EXCEPINFO* exception, UINT*) override {
-        if (id < 1 || id > static_cast<DISPID>(members.size()) || (flags & DISPATCH_METHOD) == 0) {
+        if ((flags & DISPATCH_METHOD) == 0 || result == nullptr) {
             return DISP_E_MEMBERNOTFOUND;
         }
         std::vector<VARIANT> args(params->rgvarg, params->rgvarg + params->cArgs);
         std::reverse(args.begin(), args.end());
-        const HRESULT status = std::next(members.begin(), id - 1)->second(args, result);
-        if (FAILED(status) && exception != nullptr) {
-            *exception = {};
-            exception->scode = status;
-            exception->bstrDescription = ::SysAllocString(L"the store is busy");
-            return DISP_E_EXCEPTION;
+        const HRESULT status = std::next(members.begin(), id)->second(args, *result);
+        if (SUCCEEDED(status)) {
+            return status;
         }
-        return status;
+        *exception = {};
+        exception->scode = status;
+        exception->bstrDescription = ::SysAllocString(L"the store is busy");
+        return DISP_E_EXCEPTION;
     }
 
 private:
@@ -90,131 +88,109 @@ ComPtr<FakeDispatch> MakeFake() {
     return object;
 }
 
-HRESULT Put(VARIANT* result, IDispatch* object) {
-    result->vt = VT_DISPATCH;
-    result->pdispVal = object;
-    if (object != nullptr) {
-        object->AddRef();
-    }
-    return S_OK;
+Member Returns(const ComPtr<FakeDispatch>& object) {
+    return [object](auto&, VARIANT& result) {
+        result.vt = VT_DISPATCH;
+        result.pdispVal = object.Get();
+        if (object) {
+            object->AddRef();
+        }
+        return S_OK;
+    };
 }
 
-HRESULT PutText(VARIANT* result, const wchar_t* text) {
-    result->vt = VT_BSTR;
-    result->bstrVal = ::SysAllocString(text);
-    return S_OK;
-}
-
-// A store whose default account's root holds one folder, "Inbox"; a folder made under the root
-// is remembered by name.
+// A default account whose root holds "Inbox"; a folder made under the root is remembered.
 struct ComStoreRig {
     ComStoreRig() {
-        manager->members[C::kGetDefaultAccount] = [this](auto&, VARIANT* r) {
-            return Put(r, account.Get());
-        };
-        account->members[C::kGetId] = [](auto&, VARIANT* r) {
-            // A signed 64-bit id must arrive unchanged.
-            r->vt = VT_I8;
-            r->llVal = static_cast<LONGLONG>(kAccount);
+        manager->members[C::kGetDefaultAccount] = Returns(account);
+        account->members[C::kGetId] = [](auto&, VARIANT& r) {
+            r.vt = VT_I8;  // signed, yet the id must come through whole
+            r.llVal = static_cast<LONGLONG>(kAccount);
             return S_OK;
         };
-        store->members[C::kGetDeletedItemsFolder] = [](auto&, VARIANT* r) {
-            return Put(r, nullptr);
-        };
-        store->members[C::kGetFolder] = [this](const std::vector<VARIANT>& args, VARIANT* r) {
+        store->members[C::kGetDeletedItemsFolder] = Returns(nullptr);
+        store->members[C::kGetFolder] = [this](const std::vector<VARIANT>& args, VARIANT& r) {
             if (args.size() != 1 || args[0].vt != VT_UI8) {
                 return DISP_E_TYPEMISMATCH;
             }
-            return Put(r, args[0].ullVal == kAccount ? root.Get() : nullptr);
+            return Returns(args[0].ullVal == kAccount ? root : nullptr)(args, r);
         };
-        root->members[C::kGetFirstSubFolder] = [this](auto&, VARIANT* r) {
-            return Put(r, inbox.Get());
-        };
-        root->members[C::kCreateSubFolder] = [this](const std::vector<VARIANT>& args, VARIANT* r) {
-            if (args.size() != 1 || args[0].vt != VT_BSTR) {
-                return DISP_E_TYPEMISMATCH;
-            }
-            created.emplace_back(args[0].bstrVal);
-            r->vt = VT_UI8;
-            r->ullVal = 0xA00000000042;
+        root->members[C::kGetFirstSubFolder] = Returns(inbox);
+        root->members[C::kCreateSubFolder] = [this](const std::vector<VARIANT>& args, VARIANT& r) {
+            created.emplace_back(args.at(0).vt == VT_BSTR ? args[0].bstrVal : L"?");
+            r.vt = VT_UI8;
+            r.ullVal = 0xA00000000042;
             return S_OK;
         };
-        inbox->members[C::kGetName] = [](auto&, VARIANT* r) { return PutText(r, L"Inbox"); };
-        inbox->members[C::kGetId] = [](auto&, VARIANT* r) { return PutText(r, L"17"); };
-        inbox->members[C::kGetNextFolder] = [](auto&, VARIANT* r) {
-            r->vt = VT_EMPTY;
+        inbox->members[C::kGetName] = [](auto&, VARIANT& r) {
+            r.vt = VT_BSTR;
+            r.bstrVal = ::SysAllocString(L"Inbox");
             return S_OK;
         };
-    }
-
-    std::unique_ptr<IMailStoreFactory> Factory() {
-        return CreateComMailStore([this](const wchar_t* progId) -> ComPtr<IDispatch> {
-            if (std::wstring_view(progId) == C::kStoreProgId) {
-                return store;
-            }
-            if (std::wstring_view(progId) == C::kAccountManagerProgId) {
-                return manager;
-            }
-            throw ZelCommon::Win32::ComCallError(REGDB_E_CLASSNOTREG, "not registered");
+        inbox->members[C::kGetId] = [](auto&, VARIANT& r) {
+            r.vt = VT_I4;
+            r.lVal = 17;
+            return S_OK;
+        };
+        inbox->members[C::kGetNextFolder] = [](auto&, VARIANT&) { return S_OK; };  // VT_EMPTY
+        factory = CreateComMailStore([this](const wchar_t* progId) -> ComPtr<IDispatch> {
+            return std::wstring_view(progId) == C::kStoreProgId ? store : manager;
         });
     }
 
-    ComPtr<FakeDispatch> store = MakeFake();
-    ComPtr<FakeDispatch> manager = MakeFake();
-    ComPtr<FakeDispatch> account = MakeFake();
-    ComPtr<FakeDispatch> root = MakeFake();
-    ComPtr<FakeDispatch> inbox = MakeFake();
+    ComPtr<FakeDispatch> store = MakeFake(), manager = MakeFake(), account = MakeFake(),
+                         root = MakeFake(), inbox = MakeFake();
     std::vector<std::wstring> created;
+    std::unique_ptr<IMailStoreFactory> factory;
 };
 
 TEST(ComMailStore, SpamFolder_CreatedThroughLateBoundCalls) {
     ComStoreRig com;
-    const std::unique_ptr<IMailStoreFactory> factory = com.Factory();
     SpamFolderRig rig;
-    CSpamMailFolder folder({*factory, rig.strings, rig.settings, rig.process, rig.log.Log(),
+    CSpamMailFolder folder({*com.factory, rig.strings, rig.settings, rig.process, rig.log.Log(),
                             NoAccountManagerWatcher()});
 
-    ASSERT_NE(folder.CreateSpamMailFolder(false), 0);
+    ASSERT_NE(folder.CreateSpamMailFolder(false), 0) << rig.Lines().back();
 
     EXPECT_EQ(com.created, std::vector<std::wstring>{L"Spam Mail"});
     EXPECT_EQ(folder.DefaultAccountId(), kAccount);
-    EXPECT_EQ(folder.SpamFolderId(), 0xA00000000042u);
     EXPECT_EQ(folder.FolderIds(), (std::set<uint64_t>{17, 0xA00000000042}));
-    const std::shared_ptr<IAccountManager> manager = factory->CreateAccountManager();
-    EXPECT_EQ(DispatchOf(*manager), com.manager.Get());
+    EXPECT_EQ(DispatchOf(*com.factory->CreateAccountManager()), com.manager.Get());
 }
 
 TEST(ComMailStore, Failures_BecomeStoreErrorsWithTheirStatus) {
     ComStoreRig com;
-    com.inbox->members[C::kGetName] = [](auto&, VARIANT*) { return E_ACCESSDENIED; };
-    const std::unique_ptr<IMailStoreFactory> factory = com.Factory();
+    com.inbox->members[C::kGetName] = [](auto&, VARIANT&) { return E_ACCESSDENIED; };
     const std::unique_ptr<IFolder> inbox =
-        factory->CreateStore()->FolderById(kAccount)->FirstSubFolder();
-
-    const auto statusOf = [](const std::function<void()>& call) -> std::pair<int32_t, std::string> {
+        com.factory->CreateStore()->FolderById(kAccount)->FirstSubFolder();
+    const auto failureOf = [](const std::function<void()>& call) {
         try {
             call();
         } catch (const StoreError& error) {
-            return {error.Result(), error.what()};
+            return std::make_pair(error.Result(), std::string(error.what()));
         }
-        return {0, "no error"};
+        return std::make_pair(0, std::string("no failure"));
     };
-    EXPECT_EQ(statusOf([&] { inbox->Name(); }),
+
+    EXPECT_EQ(failureOf([&] { inbox->Name(); }),
               std::make_pair(static_cast<int32_t>(E_ACCESSDENIED),
                              std::string("GetName: the store is busy")));
-    EXPECT_EQ(statusOf([&] { inbox->MessageCount(); }).first,
+    EXPECT_EQ(failureOf([&] { inbox->MessageCount(); }).first,
               static_cast<int32_t>(DISP_E_UNKNOWNNAME));
-    // Null objects are answers, not failures.
+    // No object is an answer, not a failure.
     EXPECT_EQ(inbox->NextSibling(), nullptr);
-    EXPECT_EQ(factory->CreateStore()->FolderById(kAccount + 1), nullptr);
-    EXPECT_EQ(factory->CreateStore()->DeletedItemsFolder(kAccount), nullptr);
-
-    try {
-        ZelCommon::Win32::CallMethod(nullptr, L"GetId");
-        ADD_FAILURE() << "a null object was called";
-    } catch (const ZelCommon::Win32::ComCallError& error) {
-        EXPECT_EQ(error.Result(), E_POINTER);
-    }
+    EXPECT_EQ(com.factory->CreateStore()->FolderById(kAccount + 1), nullptr);
+    EXPECT_EQ(com.factory->CreateStore()->DeletedItemsFolder(kAccount), nullptr);
+    EXPECT_THROW(
+        {
+            try {
+                ZelCommon::Win32::CallMethod(nullptr, L"GetId");
+            } catch (const ZelCommon::Win32::ComCallError& error) {
+                EXPECT_EQ(error.Result(), E_POINTER);
+                throw;
+            }
+        },
+        ZelCommon::Win32::ComCallError);
 }
 
 }  // namespace
