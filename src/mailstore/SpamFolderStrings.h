@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "settings/localisation/ZelResourceStringLoader.h"

@@ -8,7 +8,8 @@
 namespace Orva::MailStore {
 namespace {
 
-constexpr int32_t kUnspecifiedError = static_cast<int32_t>(0x80004005u);
+// E_FAIL: the store answered a creation with no folder.
+constexpr int32_t kFailure = static_cast<int32_t>(0x80004005u);
 constexpr const wchar_t* kCreateName = L"CToolBarWnd::CreateSpamMailFolder";
 
 // Closes the string table however the search ends, as the loader the folder name came from
@@ -137,7 +138,7 @@ bool CSpamMailFolder::FindOrCreate(IStore& store, const std::wstring& name) {
         const uint64_t created = root->CreateSubFolder(name);
         Log(L"@@@ Creating spam mail folder [%s]... Return=[%llx]", name, created);
         if (created == kNoFolderId) {
-            throw StoreError(kUnspecifiedError, "The spam mail folder could not be created");
+            throw StoreError(kFailure, "The spam mail folder could not be created");
         }
         spamFolderId = created;
         folderIds.insert(created);
