@@ -82,6 +82,14 @@ Variant::Variant(bool value) noexcept : Variant() {
     m_value.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
 }
 
+Variant::Variant(IDispatch* object) noexcept : Variant() {
+    m_value.vt = VT_DISPATCH;
+    m_value.pdispVal = object;
+    if (object != nullptr) {
+        object->AddRef();
+    }
+}
+
 Variant::Variant(Variant&& other) noexcept : Variant() {
     m_value = std::exchange(other.m_value, VARIANT{});
     ::VariantInit(&other.m_value);

@@ -29,11 +29,15 @@ private:
 class Variant {
 public:
     Variant() noexcept { ::VariantInit(&m_value); }
-    Variant(int32_t value) noexcept;                                    // NOLINT: VT_I4
-    Variant(uint64_t value) noexcept;                                   // NOLINT: VT_UI8
-    Variant(std::wstring_view text);                                    // NOLINT: VT_BSTR
-    Variant(const wchar_t* text) : Variant(std::wstring_view(text)) {}  // NOLINT
-    Variant(bool value) noexcept;                                       // NOLINT: VT_BOOL
+    Variant(int32_t value) noexcept;   // NOLINT: VT_I4
+    Variant(uint64_t value) noexcept;  // NOLINT: VT_UI8
+    Variant(std::wstring_view text);   // NOLINT: VT_BSTR
+    Variant(const wchar_t* text)       // NOLINT: VT_BSTR, empty for null
+        : Variant(text == nullptr ? std::wstring_view() : std::wstring_view(text)) {}
+    // A narrow text would otherwise become a VT_BOOL.
+    Variant(const char*) = delete;
+    Variant(bool value) noexcept;         // NOLINT: VT_BOOL
+    Variant(IDispatch* object) noexcept;  // NOLINT: VT_DISPATCH, holding its own reference
     Variant(Variant&& other) noexcept;
     Variant& operator=(Variant&& other) noexcept;
     Variant(const Variant&) = delete;
