@@ -16,23 +16,6 @@ void CPendingParts::CreateDeferredObject() {
     Missing(L"The classic toolbar band");
 }
 
-int CPendingParts::CreateSpamMailFolder(bool) {
-    Missing(L"The spam folder");
-    return 0;
-}
-
-void CPendingParts::ProcDeleteAllSpamMsg(uint64_t, uint64_t, bool) {
-    Missing(L"The spam folder");
-}
-
-void CPendingParts::PostCleanDeletedFolder() {
-    Missing(L"The spam folder");
-}
-
-void CPendingParts::OnFolderSelectionChanged(uint64_t) {
-    Missing(L"The spam folder");
-}
-
 void CPendingParts::OpenFilteringSheet() {
     Missing(L"The filtering sheet");
 }

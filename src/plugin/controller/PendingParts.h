@@ -9,10 +9,10 @@
 
 namespace Orva::Plugin {
 
-// Stands in for the parts the add-in does not have yet (classic band, spam folder, dialogs), so
-// that the controller and its protocol run complete without them. Each missing operation is
-// logged the first time it is asked for; none pretends to succeed: no spam folder, no dialog.
-class CPendingParts final : public IClassicBand, public ISpamFolder, public ICommandDialogs {
+// Stands in for the parts the add-in does not have yet (classic band, dialogs), so that the
+// controller and its protocol run complete without them. Each missing operation is logged the
+// first time it is asked for; none pretends to succeed: no band, no dialog.
+class CPendingParts final : public IClassicBand, public ICommandDialogs {
 public:
     explicit CPendingParts(ZelCommon::Library::DebugLog& log) : m_log(log) {}
 
@@ -23,11 +23,6 @@ public:
     void TearDown() override {}
     bool HasDeferredObject() const override { return false; }
     void CreateDeferredObject() override;
-
-    int CreateSpamMailFolder(bool force) override;
-    void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t messageId, bool all) override;
-    void PostCleanDeletedFolder() override;
-    void OnFolderSelectionChanged(uint64_t folderId) override;
 
     void OpenFilteringSheet() override;
     void OpenStatistics() override;

@@ -8,6 +8,7 @@
 #include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/WindowMessaging.h"
+#include "mailstore/MailStore_win.h"
 #include "settings/localisation/StringLoaderServices.h"
 #include "settings/probes/OsInfo.h"
 #include "settings/probes/OsVersion.h"
@@ -33,7 +34,15 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
                Orva::Settings::DefaultInstallFolder(), m_log),
       m_accountCheck({ZelCommon::Storage::SystemRegistryApi(), SystemProcessContext(), m_log}),
       m_pending(m_log),
-      m_dialogs(strings, SystemShellOpen(), m_pending, m_log) {}
+      m_dialogs(strings, SystemShellOpen(), m_pending, m_log),
+      m_mailStore(Orva::MailStore::CreateSystemMailStore()),
+      m_spamFolderLoader(Orva::Settings::SystemStringLoaderServices()),
+      m_spamFolderStrings(m_spamFolderLoader, ZelCommon::Storage::SystemProfileApi(),
+                          settings.Files().installFile),
+      m_accountManagerWatcher(m_relay, m_log),
+      m_spamMailFolder({*m_mailStore, m_spamFolderStrings, settings, SystemProcessContext(), m_log,
+                        m_accountManagerWatcher}),
+      m_spamFolder(m_spamMailFolder, m_log) {}
 
 bool CSystemController::Open() {
     m_window = CToolBarWnd::Create(
@@ -42,7 +51,7 @@ bool CSystemController::Open() {
                         SystemShellOpen(), SystemKeyboard(), SystemProcessContext(),
                         SystemDebuggerOutput(), Orva::Settings::SystemOsInfo(), *m_host, m_version,
                         m_log},
-        ControllerParts{m_ribbon, m_pending, m_pending, m_accountCheck, m_dialogs, m_strings,
+        ControllerParts{m_ribbon, m_pending, m_spamFolder, m_accountCheck, m_dialogs, m_strings,
                         m_settings, m_agent},
         m_log);
     return m_window != nullptr;
@@ -52,6 +61,7 @@ void CSystemController::Close() {
     if (m_window) {
         m_window->Controller().ReleaseHostAtUnload();
     }
+    m_accountManagerWatcher.Disconnect();
     m_window.reset();
 }
 

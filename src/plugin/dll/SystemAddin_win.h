@@ -6,15 +6,20 @@
 
 #include "common_src/platform/Event.h"
 #include "common_src/platform/WindowProcedureHook.h"
+#include "mailstore/MailStore.h"
+#include "mailstore/SpamFolderStrings.h"
+#include "mailstore/SpamMailFolder.h"
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/agent/AgentLink.h"
 #include "plugin/controller/CommandDialogs.h"
 #include "plugin/controller/LoaderStrings.h"
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailClientVersion.h"
+#include "plugin/controller/MailStoreSpamFolder.h"
 #include "plugin/controller/PendingParts.h"
 #include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarWnd_win.h"
+#include "plugin/dll/AccountManagerWatcher_win.h"
 #include "plugin/host/HostEventRelay.h"
 #include "plugin/host/HostObjects.h"
 #include "settings/SettingsPaths.h"
@@ -56,6 +61,13 @@ private:
     CMailClientAccountCheck m_accountCheck;
     CPendingParts m_pending;
     CCommandDialogs m_dialogs;
+    // The spam folder on the host's store, with a string loader of its own.
+    std::unique_ptr<Orva::MailStore::IMailStoreFactory> m_mailStore;
+    ZelResourceStringLoader m_spamFolderLoader;
+    Orva::MailStore::CLoaderSpamFolderStrings m_spamFolderStrings;
+    CAccountManagerSinkWatcher m_accountManagerWatcher;
+    Orva::MailStore::CSpamMailFolder m_spamMailFolder;
+    CMailStoreSpamFolder m_spamFolder;
     std::unique_ptr<CToolBarWnd> m_window;
 };
 

@@ -3,8 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "common_src/platform/TextCodec.h"
-#include "common_src/win32/DispatchCall_win.h"
+#include "common_src/win32/LateBoundCall_win.h"
 #include "plugin/host/HostContract_win.h"
 #include "plugin/host/HostEventSinks_win.h"
 #include "plugin/host/HostObjects.h"
@@ -14,31 +13,19 @@ namespace Orva::Plugin {
 namespace {
 
 using Microsoft::WRL::ComPtr;
-using ZelCommon::Win32::DispatchArg;
-using ZelCommon::Win32::DispatchResult;
+using ZelCommon::Win32::CallMethod;
+using ZelCommon::Win32::ComCallError;
+using ZelCommon::Win32::Variant;
 namespace Method = HostContract::ToolbarMethod;
 
-// The system's text for the status, then the object's own words for it when it gave any.
-[[noreturn]] void ThrowFailure(const DispatchResult& result) {
-    std::string text = HResultText(result.status);
-    if (!result.description.empty()) {
-        text += ": " + ZelCommon::Text::WideToUtf8(result.description);
+// The host's failure, as the controller's parts know it.
+template <class Call>
+auto HostCall(Call call) {
+    try {
+        return call();
+    } catch (const ComCallError& error) {
+        throw HostCallError(error.what());
     }
-    throw HostCallError(text);
-}
-
-DispatchResult Checked(DispatchResult result) {
-    if (!result.Succeeded()) {
-        ThrowFailure(result);
-    }
-    return result;
-}
-
-int32_t IdOf(const DispatchResult& result) {
-    if (const std::optional<int32_t> id = ZelCommon::Win32::AsInt32(result.value.get())) {
-        return *id;
-    }
-    ThrowFailure({DISP_E_TYPEMISMATCH, L"the host gave no id", {}});
 }
 
 ComPtr<CSubButtonEventSink> EntrySink(int32_t entryEvent, CHostEventRelay& relay,
@@ -83,34 +70,28 @@ void CHostToolbar::Release() {
     m_api.Reset();
 }
 
-IDispatch& CHostToolbar::Api() const {
-    if (m_api == nullptr) {
-        ThrowFailure({E_POINTER, {}, {}});
-    }
-    return *m_api.Get();
-}
-
+// A missing object is the late-bound call's own E_POINTER.
 int32_t CHostToolbar::CreateGroup(const std::wstring& caption) {
-    return IdOf(Checked(ZelCommon::Win32::CallMethod(Api(), Method::kCreateGroup, {caption})));
+    return HostCall(
+        [&] { return CallMethod(m_api.Get(), Method::kCreateGroup, caption).ToInt32(); });
 }
 
 int32_t CHostToolbar::AddButton(int32_t group, const std::wstring& caption,
                                 const std::wstring& imageFile) {
-    return IdOf(Checked(
-        ZelCommon::Win32::CallMethod(Api(), Method::kAddButton, {group, caption, imageFile})));
+    return HostCall([&] {
+        return CallMethod(m_api.Get(), Method::kAddButton, group, caption, imageFile).ToInt32();
+    });
 }
 
 int32_t CHostToolbar::AddDropDownEntry(int32_t group, int32_t button, const std::wstring& caption,
                                        int32_t entryEvent) {
-    const DispatchResult added = Checked(
-        ZelCommon::Win32::CallMethod(Api(), Method::kAddDropDownEntry, {group, button, caption}));
-    const VARIANT& value = added.value.get();
-    if (value.vt != VT_DISPATCH || value.pdispVal == nullptr) {
-        ThrowFailure({E_POINTER, L"the host gave no entry object", {}});
-    }
-    IDispatch& entry = *value.pdispVal;
-    const int32_t id = IdOf(Checked(ZelCommon::Win32::GetProperty(entry, Method::kEntryId)));
-    AdviseEntrySink(entry, entryEvent);
+    const ComPtr<IDispatch> entry = HostCall([&] {
+        return CallMethod(m_api.Get(), Method::kAddDropDownEntry, group, button, caption)
+            .ToDispatch();
+    });
+    const int32_t id = HostCall(
+        [&] { return ZelCommon::Win32::GetProperty(entry.Get(), Method::kEntryId).ToInt32(); });
+    AdviseEntrySink(*entry.Get(), entryEvent);
     return id;
 }
 
@@ -130,15 +111,15 @@ void CHostToolbar::AdviseEntrySink(IUnknown& entry, int32_t entryEvent) {
 }
 
 void CHostToolbar::SetTooltip(int32_t group, int32_t button, const std::wstring& tooltip) {
-    Checked(ZelCommon::Win32::CallMethod(Api(), Method::kSetTooltip, {group, button, tooltip}));
+    HostCall([&] { CallMethod(m_api.Get(), Method::kSetTooltip, group, button, tooltip); });
 }
 
 void CHostToolbar::SetCaption(int32_t group, int32_t button, const std::wstring& caption) {
-    Checked(ZelCommon::Win32::CallMethod(Api(), Method::kSetCaption, {group, button, caption}));
+    HostCall([&] { CallMethod(m_api.Get(), Method::kSetCaption, group, button, caption); });
 }
 
 void CHostToolbar::EnableButton(int32_t group, int32_t button, bool enable) {
-    Checked(ZelCommon::Win32::CallMethod(Api(), Method::kEnableButton, {group, button, enable}));
+    HostCall([&] { CallMethod(m_api.Get(), Method::kEnableButton, group, button, enable); });
 }
 
 }  // namespace Orva::Plugin

@@ -33,7 +33,6 @@ public:
     void EnableButton(int32_t group, int32_t button, bool enable) override;
 
 private:
-    IDispatch& Api() const;
     void AdviseEntrySink(IUnknown& entry, int32_t entryEvent);
 
     CHostEventRelay& m_relay;

@@ -1,0 +1,197 @@
+#include "mailstore/MailStore_win.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "common_src/win32/LateBoundCall_win.h"
+#include "mailstore/SpamFolderRig.h"
+#include "mailstore/StoreContract_win.h"
+#include "mailstore/StoreError.h"
+
+namespace Orva::MailStore {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+namespace C = StoreContract;
+
+// Fills in the result from the arguments (in their declared order), or fails.
+using Member = std::function<HRESULT(const std::vector<VARIANT>& args, VARIANT& result)>;
+
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+// A host object that knows its members only by name, as the host's store objects do. A failing
+// member reports itself through EXCEPINFO, as automation objects do.
+class FakeDispatch final : public IDispatch {
+public:
+    std::map<std::wstring, Member> members;
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (iid != IID_IUnknown && iid != IID_IDispatch) {
+            *object = nullptr;
+            return E_NOINTERFACE;
+        }
+        *object = static_cast<IDispatch*>(this);
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
+    STDMETHODIMP_(ULONG) Release() override {
+        const ULONG left = --m_references;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+        *count = 0;
+        return S_OK;
+    }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
+        const auto found = members.find(names[0]);
+        *ids = found == members.end() ? DISPID_UNKNOWN
+                                      : static_cast<DISPID>(std::distance(members.begin(), found));
+        return found == members.end() ? DISP_E_UNKNOWNNAME : S_OK;
+    }
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
+                        EXCEPINFO* exception, UINT*) override {
+        if ((flags & DISPATCH_METHOD) == 0 || result == nullptr) {
+            return DISP_E_MEMBERNOTFOUND;
+        }
+        std::vector<VARIANT> args(params->rgvarg, params->rgvarg + params->cArgs);
+        std::reverse(args.begin(), args.end());
+        const HRESULT status = std::next(members.begin(), id)->second(args, *result);
+        if (SUCCEEDED(status)) {
+            return status;
+        }
+        *exception = {};
+        exception->scode = status;
+        exception->bstrDescription = ::SysAllocString(L"the store is busy");
+        return DISP_E_EXCEPTION;
+    }
+
+private:
+    ~FakeDispatch() = default;
+    ULONG m_references = 1;
+};
+#pragma GCC diagnostic pop
+
+// The one place a fake object is made; it deletes itself on its last Release.
+ComPtr<FakeDispatch> MakeFake() {
+    ComPtr<FakeDispatch> object;
+    object.Attach(new FakeDispatch());
+    return object;
+}
+
+Member Returns(const ComPtr<FakeDispatch>& object) {
+    return [object](auto&, VARIANT& result) {
+        result.vt = VT_DISPATCH;
+        result.pdispVal = object.Get();
+        if (object) {
+            object->AddRef();
+        }
+        return S_OK;
+    };
+}
+
+// A default account whose root holds "Inbox"; a folder made under the root is remembered.
+struct ComStoreRig {
+    ComStoreRig() {
+        manager->members[C::kGetDefaultAccount] = Returns(account);
+        account->members[C::kGetId] = [](auto&, VARIANT& r) {
+            r.vt = VT_I8;  // signed, yet the id must come through whole
+            r.llVal = static_cast<LONGLONG>(kAccount);
+            return S_OK;
+        };
+        store->members[C::kGetDeletedItemsFolder] = Returns(nullptr);
+        store->members[C::kGetFolder] = [this](const std::vector<VARIANT>& args, VARIANT& r) {
+            if (args.size() != 1 || args[0].vt != VT_UI8) {
+                return DISP_E_TYPEMISMATCH;
+            }
+            return Returns(args[0].ullVal == kAccount ? root : nullptr)(args, r);
+        };
+        root->members[C::kGetFirstSubFolder] = Returns(inbox);
+        root->members[C::kCreateSubFolder] = [this](const std::vector<VARIANT>& args, VARIANT& r) {
+            created.emplace_back(args.at(0).vt == VT_BSTR ? args[0].bstrVal : L"?");
+            r.vt = VT_UI8;
+            r.ullVal = 0xA00000000042;
+            return S_OK;
+        };
+        inbox->members[C::kGetName] = [](auto&, VARIANT& r) {
+            r.vt = VT_BSTR;
+            r.bstrVal = ::SysAllocString(L"Inbox");
+            return S_OK;
+        };
+        inbox->members[C::kGetId] = [](auto&, VARIANT& r) {
+            r.vt = VT_I4;
+            r.lVal = 17;
+            return S_OK;
+        };
+        inbox->members[C::kGetNextFolder] = [](auto&, VARIANT&) { return S_OK; };  // VT_EMPTY
+        factory = CreateComMailStore([this](const wchar_t* progId) -> ComPtr<IDispatch> {
+            return std::wstring_view(progId) == C::kStoreProgId ? store : manager;
+        });
+    }
+
+    ComPtr<FakeDispatch> store = MakeFake(), manager = MakeFake(), account = MakeFake(),
+                         root = MakeFake(), inbox = MakeFake();
+    std::vector<std::wstring> created;
+    std::unique_ptr<IMailStoreFactory> factory;
+};
+
+TEST(ComMailStore, SpamFolder_CreatedThroughLateBoundCalls) {
+    ComStoreRig com;
+    SpamFolderRig rig;
+    CSpamMailFolder folder({*com.factory, rig.strings, rig.settings, rig.process, rig.log.Log(),
+                            NoAccountManagerWatcher()});
+
+    ASSERT_NE(folder.CreateSpamMailFolder(false), 0) << rig.Lines().back();
+
+    EXPECT_EQ(com.created, std::vector<std::wstring>{L"Spam Mail"});
+    EXPECT_EQ(folder.DefaultAccountId(), kAccount);
+    EXPECT_EQ(folder.FolderIds(), (std::set<uint64_t>{17, 0xA00000000042}));
+    EXPECT_EQ(DispatchOf(*com.factory->CreateAccountManager()), com.manager.Get());
+}
+
+TEST(ComMailStore, Failures_BecomeStoreErrorsWithTheirStatus) {
+    ComStoreRig com;
+    com.inbox->members[C::kGetName] = [](auto&, VARIANT&) { return E_ACCESSDENIED; };
+    const std::unique_ptr<IFolder> inbox =
+        com.factory->CreateStore()->FolderById(kAccount)->FirstSubFolder();
+    const auto failureOf = [](const std::function<void()>& call) {
+        try {
+            call();
+        } catch (const StoreError& error) {
+            return std::make_pair(error.Result(), std::string(error.what()));
+        }
+        return std::make_pair(0, std::string("no failure"));
+    };
+
+    EXPECT_EQ(failureOf([&] { inbox->Name(); }),
+              std::make_pair(static_cast<int32_t>(E_ACCESSDENIED),
+                             std::string("GetName: the store is busy")));
+    EXPECT_EQ(failureOf([&] { inbox->MessageCount(); }).first,
+              static_cast<int32_t>(DISP_E_UNKNOWNNAME));
+    // No object is an answer, not a failure.
+    EXPECT_EQ(inbox->NextSibling(), nullptr);
+    EXPECT_EQ(com.factory->CreateStore()->FolderById(kAccount + 1), nullptr);
+    EXPECT_EQ(com.factory->CreateStore()->DeletedItemsFolder(kAccount), nullptr);
+    EXPECT_THROW(
+        {
+            try {
+                ZelCommon::Win32::CallMethod(nullptr, L"GetId");
+            } catch (const ZelCommon::Win32::ComCallError& error) {
+                EXPECT_EQ(error.Result(), E_POINTER);
+                throw;
+            }
+        },
+        ZelCommon::Win32::ComCallError);
+}
+
+}  // namespace
+}  // namespace Orva::MailStore
