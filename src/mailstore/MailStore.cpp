@@ -6,6 +6,7 @@ namespace {
 class NoWatcher final : public IAccountManagerWatcher {
 public:
     void OnAccountManagerCreated(IAccountManager&) override {}
+    void OnAccountManagerReleased() override {}
 };
 
 }  // namespace

@@ -78,6 +78,8 @@ class IAccountManagerWatcher {
 public:
     virtual ~IAccountManagerWatcher() = default;
     virtual void OnAccountManagerCreated(IAccountManager& manager) = 0;
+    // The manager is let go: whatever listens to it stops.
+    virtual void OnAccountManagerReleased() = 0;
 };
 
 // A watcher that listens to nothing.

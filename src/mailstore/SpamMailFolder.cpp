@@ -97,6 +97,15 @@ int CSpamMailFolder::CreateSpamMailFolder(bool force) {
     return 0;
 }
 
+void CSpamMailFolder::ReleaseStore() {
+    m_spDeletedFolder.reset();
+    if (std::exchange(m_accountManagerAnnounced, false)) {
+        m_ports.watcher.OnAccountManagerReleased();
+    }
+    m_spAccountManager.reset();
+    m_spStore.reset();
+}
+
 IAccountManager& CSpamMailFolder::AccountManager() {
     if (m_spAccountManager == nullptr) {
         m_spAccountManager = m_ports.store.CreateAccountManager();

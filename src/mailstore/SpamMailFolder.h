@@ -41,6 +41,9 @@ public:
     void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t messageId, bool all);
     // With DeleteDeleted on, deletes the quarantined messages of the deleted items.
     void PostCleanDeletedFolder();
+    // Lets go of the store's objects and stops listening to the account manager, while COM
+    // still runs; the next operation makes them again.
+    void ReleaseStore();
 
     uint64_t DefaultAccountId() const { return m_nDefaultAccountID; }
     uint64_t SpamFolderId() const { return m_nSpamFolderID; }

@@ -184,7 +184,9 @@ TEST(CreateSpamMailFolder, RootGoneBeforeCreation_LogsTheSystemError) {
     EXPECT_FALSE(rig.folder.IsFolderCreated());
 }
 
-TEST(CreateSpamMailFolder, AccountManager_AnnouncedOnceWhenFirstObtained) {
+// Announced once while held; let go with the store before COM shuts down, and announced again
+// when a later call needs it.
+TEST(CreateSpamMailFolder, AccountManager_AnnouncedOnceWhileHeld) {
     SpamFolderRig rig;
     rig.store.NullOn(StoreCall::CreateAccountManager, 1);
 
@@ -193,6 +195,12 @@ TEST(CreateSpamMailFolder, AccountManager_AnnouncedOnceWhenFirstObtained) {
     EXPECT_NE(rig.folder.CreateSpamMailFolder(false), 0);
     EXPECT_NE(rig.folder.CreateSpamMailFolder(true), 0);
     EXPECT_EQ(rig.watcher.told, 1);
+
+    rig.folder.ReleaseStore();
+    EXPECT_FALSE(rig.watcher.listening);
+    EXPECT_NE(rig.folder.CreateSpamMailFolder(true), 0);
+    EXPECT_EQ(rig.watcher.told, 2);
+    EXPECT_TRUE(rig.watcher.listening);
 }
 
 }  // namespace

@@ -15,11 +15,16 @@ namespace Orva::MailStore {
 
 inline constexpr StoreId kAccount = 0x1F00000002;
 
-// Counts the account managers it was told of.
+// Counts the account managers it was told of, and whether it listens to one now.
 class CountingWatcher final : public IAccountManagerWatcher {
 public:
-    void OnAccountManagerCreated(IAccountManager&) override { ++told; }
+    void OnAccountManagerCreated(IAccountManager&) override {
+        ++told;
+        listening = true;
+    }
+    void OnAccountManagerReleased() override { listening = false; }
     int told = 0;
+    bool listening = false;
 };
 
 // The spam folder over a fake store whose default account holds only its deleted items.

@@ -56,6 +56,8 @@ public:
     virtual int CreateSpamMailFolder(bool force) = 0;
     virtual void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t messageId, bool all) = 0;
     virtual void PostCleanDeletedFolder() = 0;
+    // Lets go of the store's objects before COM shuts down.
+    virtual void ReleaseStore() = 0;
     virtual void OnFolderSelectionChanged(uint64_t folderId) = 0;
 };
 

@@ -20,6 +20,7 @@ public:
         m_folder.ProcDeleteAllSpamMsg(folderId, messageId, all);
     }
     void PostCleanDeletedFolder() override { m_folder.PostCleanDeletedFolder(); }
+    void ReleaseStore() override { m_folder.ReleaseStore(); }
     // The ribbon of the mail clients 2011 and later keeps the add-in's buttons whatever folder
     // is selected, so a selection changes nothing but the log.
     void OnFolderSelectionChanged(uint64_t) override {

@@ -27,6 +27,7 @@ void CToolBarController::ReleaseHostAtUnload() {
     UnadviseLogged([this] { m_ports.host.UnadviseApiSink(); });
     UnadviseLogged([this] { m_ports.host.UnadviseInitSink(); });
     m_ports.host.ReleaseInitObject();
+    m_parts.spamFolder.ReleaseStore();
 }
 
 void CToolBarController::OnClose() {
@@ -40,6 +41,8 @@ void CToolBarController::OnClose() {
     }
     UnadviseLogged([this] { m_ports.host.UnadviseInitSink(); });
     m_ports.host.ReleaseInitObject();
+    // The store's objects are COM objects too: they go before COM does.
+    m_parts.spamFolder.ReleaseStore();
     m_ports.host.UninitializeCom();
     m_parts.strings.Release();
 }

@@ -20,6 +20,7 @@ public:
         : m_relay(relay), m_log(log) {}
 
     void OnAccountManagerCreated(Orva::MailStore::IAccountManager& manager) override;
+    void OnAccountManagerReleased() override { Disconnect(); }
     // Unadvises quietly, so that the host never calls a sink in an unloaded image.
     void Disconnect();
 

@@ -24,7 +24,8 @@ const std::wstring kShutdownOut = LogEntry(L"@@@ CToolBarWnd::OnWLMShutdown  OUT
 const std::wstring kCloseIn = LogEntry(L"@@@ CToolBarWnd::OnClose  IN");
 const std::wstring kSawShutdown = LogEntry(L"CToolBarWnd::OnClose() wait for on shutdown success");
 const std::vector<std::wstring> kReleased = {L"host UnadviseInitSink", L"host ReleaseInitObject",
-                                             L"host UninitializeCom", L"strings release"};
+                                             L"store release", L"host UninitializeCom",
+                                             L"strings release"};
 
 void Built(ControllerRig& rig) {
     rig.Dispatch(4029);
@@ -89,13 +90,13 @@ TEST(ControllerLifecycle, CreateShutdownAndClose) {
          {kClose},
          {kCloseIn, L"event wait 10000", kSawShutdown, L"host UnadviseInitSink",
           LogEntry(L"!!! CWLMShadow::OnClose() WLMApi Event Sink excpetion:[gone]"),
-          L"host ReleaseInitObject", L"host UninitializeCom", L"strings release",
+          L"host ReleaseInitObject", L"store release", L"host UninitializeCom", L"strings release",
           Answer(std::nullopt)}},
     });
 }
 
-// Unloaded before the mail client shut it down: both sinks go, nothing waits or shuts COM or
-// GDI+ down, whatever the unadvise throws.
+// Unloaded before the mail client shut it down: both sinks and the store's objects go, nothing
+// waits or shuts COM or GDI+ down, whatever the unadvise throws.
 TEST(ControllerLifecycle, UnloadStillAdvised_UnadvisesBothSinksWithoutWaiting) {
     const std::wstring kThrown =
         LogEntry(L"!!! CWLMShadow::OnClose() WLMApi Event Sink excpetion:[gone]");
@@ -113,11 +114,11 @@ TEST(ControllerLifecycle, UnloadStillAdvised_UnadvisesBothSinksWithoutWaiting) {
 
         const std::vector<std::wstring> expected =
             unadviseFails
-                ? std::vector<std::wstring>{L"host UnadviseApiSink", kThrown,
-                                            L"host UnadviseInitSink", kThrown,
-                                            L"host ReleaseInitObject"}
+                ? std::vector<std::wstring>{L"host UnadviseApiSink",   kThrown,
+                                            L"host UnadviseInitSink",  kThrown,
+                                            L"host ReleaseInitObject", L"store release"}
                 : std::vector<std::wstring>{L"host UnadviseApiSink", L"host UnadviseInitSink",
-                                            L"host ReleaseInitObject"};
+                                            L"host ReleaseInitObject", L"store release"};
         EXPECT_EQ(rig.Journal(), expected);
     }
 }

@@ -89,6 +89,7 @@ public:
         }
     }
     void PostCleanDeletedFolder() override {}
+    void ReleaseStore() override {}
     void OnFolderSelectionChanged(uint64_t) override {}
 };
 
@@ -112,6 +113,7 @@ class BlockingSpamFolder final : public Orva::Plugin::ISpamFolder {
 public:
     int CreateSpamMailFolder(bool) override { return 1; }
     void PostCleanDeletedFolder() override {}
+    void ReleaseStore() override {}
     void OnFolderSelectionChanged(uint64_t) override {}
     void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t, bool) override {
         std::unique_lock lock(m_mutex);

@@ -32,6 +32,7 @@ public:
         throw std::runtime_error("store gone");
     }
     void PostCleanDeletedFolder() override {}
+    void ReleaseStore() override {}
     void OnFolderSelectionChanged(uint64_t) override {}
 };
 

@@ -124,6 +124,7 @@ public:
     int CreateSpamMailFolder(bool force) override;
     void ProcDeleteAllSpamMsg(uint64_t folderId, uint64_t messageId, bool all) override;
     void PostCleanDeletedFolder() override;
+    void ReleaseStore() override { Note(L"store release"); }
     void OnFolderSelectionChanged(uint64_t folderId) override;
 
     void SetCreateResult(int result) { m_createResult = result; }
