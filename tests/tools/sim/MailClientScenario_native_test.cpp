@@ -37,29 +37,36 @@ bool HasInOrder(const std::vector<std::wstring>& entries,
 
 TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
     const std::vector<ScenarioStep> steps = RunMailClientScenario(16);
-    ASSERT_EQ(steps.size(), 9u);
+    ASSERT_EQ(steps.size(), 10u);
     const std::vector<std::vector<std::wstring>> expected = {
         {L"ORVA_WLM.exe\" " + kAgent, L"send " + kController + L" 1 0 0", L"host AdviseInitSink",
          L"debugger ORVA InitializePlugin()"},
         // The re-query was posted: it runs only once the build has returned.
         {L"send " + kController + L" 4029 0 0", L"dump button ID: 1000, 1001",
+         L"log @@@ Creating spam mail folder [Spam Mail]", L"spam mail folder was created",
          L"post " + kController + L" 4028", L"log @@@ CToolBarWnd::OnBuildUI  OUT",
          L"log @@@ CToolBarWnd::OnReQueryDefaultAccount  IN", L"post " + kAgent + L" 4027 0 0",
          L"log CToolBarWnd::OnTimer() Got WLM handle",
          L"ribbon 1004 entry 2 of 1001 \"Turn Protection Off\""},
         {L"post " + kController + L" 1075 0 0", L"log WLM Shadow is OK now!"},
         {L"folderId=[0x100000002]", L"post " + kController + L" 1076 1 2",
-         L"store folder-selected 0x100000002"},
+         L"log folder under quick view is selected"},
         {L"post " + kController + L" 4031 1000 1007", L"post " + kAgent + L" 1041 0 0"},
-        {L"store delete-all 0x10000000B 0x2A 1"},
+        // The user's own mail stays; so does the ordinary mail in the deleted items.
+        {L"mailbox Spam Mail before the request: 3 messages", L"Spam mail deleted.",
+         L"Spam mail deleted.", L"mailbox Spam Mail after it: 1 messages: Holiday photos"},
         {L"window opens " + std::wstring(Plugin::kSuiteWindowTitle),
          L"log @@@ CToolBarWnd::OnClickRibbonButton  OUT"},
         {L"ini ORVA_WLM.ini [Antispam] EnableTBar = \"0\"", L"post " + kAgent + L" 1069 0 0",
          L"\"Turn Protection On\"", L"ribbon 1007 button \"Spam\"", L" disabled"},
         {L"send " + kAgent + L" 16 0 0", L"send " + kController + L" 4030 0 0",
+         L"Total nCount=(2) in folder(Deleted Items)",
+         L"[COEShadow::PostCleanDeletedFolder] Spam mail deleted.",
          L"post " + kController + L" 16 0 0",
          L"log CToolBarWnd::OnClose() wait for on shutdown success",
-         L"window destroyed " + kController},
+         L"window destroyed " + kController, L"mailbox Deleted Items: 1 messages: Old newsletter"},
+        {L"get the folder name in create spam folder = Spam Mail",
+         L"log @@@ CToolBarWnd::CreateSpamMailFolder  OUT"},
     };
     for (size_t index = 0; index < steps.size(); ++index) {
         EXPECT_EQ(steps[index].number, static_cast<int>(index + 1));
@@ -67,6 +74,8 @@ TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
             << "step " << index + 1 << ":\n"
             << ZelCommon::Text::WideToUtf8(RenderScenario(16, {steps[index]}));
     }
+    // Found again, never made twice.
+    EXPECT_FALSE(HasInOrder(steps[9].entries, {L"Creating spam mail folder"}));
     // With the suite's window there, the not-spam click reaches no agent.
     EXPECT_FALSE(HasInOrder(steps[6].entries, {L" " + kAgent + L" "}));
 
@@ -110,7 +119,8 @@ TEST(MailClientScenario, Version14_BuildsTheClassicBandAndReportsThroughIt) {
 }
 
 TEST(SimulatedMailClient, ShutDown_LeavesNeitherControllerNorAgentWindow) {
-    SimulatedMailClient client(16);
+    SimulatedMailbox mailbox;
+    SimulatedMailClient client(16, AccountKind::Pop, mailbox);
     client.LoadAddin();
     client.HostReady();
     EXPECT_TRUE(client.ControllerExists());

@@ -16,7 +16,8 @@ struct ScenarioStep {
 
 // The add-in's life in a mail client of the given major version whose user's default account is
 // of the given kind: loaded, ready, used (a folder, a report, a clean-up asked by the agent, the
-// suite taking over, the switch turned off) and shut down.
+// suite taking over, the switch turned off) and shut down; then started again on the same mail
+// store.
 std::vector<ScenarioStep> RunMailClientScenario(int mailClientVersion,
                                                 AccountKind defaultAccount = AccountKind::Pop);
 

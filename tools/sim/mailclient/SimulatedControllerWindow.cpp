@@ -16,18 +16,21 @@ using ZelCommon::Fakes::FakeWindowMessaging;
 using ZelCommon::Platform::WindowHandle;
 namespace Message = Orva::Plugin::ControllerMessage;
 
-SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
-                                                     SimulatedMessageLoop& loop,
-                                                     Orva::Settings::SettingsStore& settings,
-                                                     Orva::Plugin::CAgentLink& agent,
-                                                     ZelResourceStringLoader& strings,
-                                                     const std::wstring& installFile)
+SimulatedControllerWindow::SimulatedControllerWindow(
+    SimulatedProcess& process, SimulatedMessageLoop& loop, Orva::Settings::SettingsStore& settings,
+    Orva::Plugin::CAgentLink& agent, ZelResourceStringLoader& strings,
+    const std::wstring& installFile, Orva::MailStore::IMailStoreFactory& store)
     : m_process(process),
       m_loop(loop),
       m_strings(strings, installFile, process.profile),
       m_ribbon(m_host.toolbar, m_strings, process.process,
                process.StringServices().defaultInstallFolder, process.log),
       m_account({process.registry, process.process, process.log}),
+      m_spamFolderLoader(process.StringServices()),
+      m_spamFolderStrings(m_spamFolderLoader, process.profile, installFile),
+      m_spamMailFolder({store, m_spamFolderStrings, settings, process.process, process.log,
+                        Orva::MailStore::NoAccountManagerWatcher()}),
+      m_spamFolder(m_spamMailFolder, process.log),
       m_controller(
           Orva::Plugin::ControllerPorts{process.messaging, process.clock, m_shutdownDone, m_hook,
                                         m_shell, m_keyboard, process.process, process.debugger,
@@ -38,8 +41,7 @@ SimulatedControllerWindow::SimulatedControllerWindow(SimulatedProcess& process,
     ZelCommon::Fakes::FakeJournal* journal = &process.journal;
     for (ZelCommon::Fakes::JournalNotes* fake :
          std::initializer_list<ZelCommon::Fakes::JournalNotes*>{
-             &m_host, &m_classic, &m_spamFolder, &m_dialogs, &m_calls, &m_shutdownDone, &m_hook,
-             &m_shell}) {
+             &m_host, &m_classic, &m_dialogs, &m_calls, &m_shutdownDone, &m_hook, &m_shell}) {
         fake->SetJournal(journal);
     }
     // The mail client 14 has its rebar from the start, so the classic band goes in at once.

@@ -8,9 +8,12 @@
 #include "ScriptedOsInfo.h"
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
+#include "mailstore/SpamFolderStrings.h"
+#include "mailstore/SpamMailFolder.h"
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/controller/LoaderStrings.h"
 #include "plugin/controller/MailClientAccountCheck.h"
+#include "plugin/controller/MailStoreSpamFolder.h"
 #include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarController.h"
 #include "support/fakes/platform/FakeSystemPorts.h"
@@ -20,8 +23,8 @@ namespace Orva::Sim {
 
 // The controller window in the simulated process: a window of the controller's class and title
 // that hands every message to the real CToolBarController, which works on recording fakes of
-// the host and of the add-in's parts, and on the real ribbon, texts and account check over the
-// fake host and the simulated machine. Messages
+// the host and of the add-in's parts, and on the real ribbon, texts, account check and spam
+// folder over the fake host, the simulated machine and the user's simulated mail store. Messages
 // arrive as Windows delivers them: a send runs at once, a post waits in the message loop. Opened
 // with WM_CREATE; WM_CLOSE destroys it.
 class SimulatedControllerWindow final : public Orva::Plugin::IControllerHandle {
@@ -29,7 +32,8 @@ public:
     SimulatedControllerWindow(SimulatedProcess& process, SimulatedMessageLoop& loop,
                               Orva::Settings::SettingsStore& settings,
                               Orva::Plugin::CAgentLink& agent, ZelResourceStringLoader& strings,
-                              const std::wstring& installFile);
+                              const std::wstring& installFile,
+                              Orva::MailStore::IMailStoreFactory& store);
     ~SimulatedControllerWindow() override;
     SimulatedControllerWindow(const SimulatedControllerWindow&) = delete;
     SimulatedControllerWindow& operator=(const SimulatedControllerWindow&) = delete;
@@ -61,8 +65,11 @@ private:
     Orva::Plugin::CLoaderStrings m_strings;
     Orva::Plugin::CRibbonToolbar m_ribbon;
     ZelCommon::Fakes::FakeClassicBand m_classic;
-    ZelCommon::Fakes::FakeSpamFolder m_spamFolder;
     Orva::Plugin::CMailClientAccountCheck m_account;
+    ZelResourceStringLoader m_spamFolderLoader;
+    Orva::MailStore::CLoaderSpamFolderStrings m_spamFolderStrings;
+    Orva::MailStore::CSpamMailFolder m_spamMailFolder;
+    Orva::Plugin::CMailStoreSpamFolder m_spamFolder;
     ZelCommon::Fakes::FakeCommandDialogs m_dialogs;
     ZelCommon::Fakes::FakeControllerWindow m_calls;
     ZelCommon::Fakes::FakeEvent m_shutdownDone;

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <span>
 
+#include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
 #include "plugin/protocol/AgentProtocol.h"
 #include "plugin/protocol/ControllerProtocol.h"
@@ -46,8 +47,10 @@ std::wstring DescribeRibbonItem(const ZelCommon::Fakes::FakeRibbonItem& item) {
 
 }  // namespace
 
-SimulatedMailClient::SimulatedMailClient(int mailClientVersion, AccountKind defaultAccount)
+SimulatedMailClient::SimulatedMailClient(int mailClientVersion, AccountKind defaultAccount,
+                                         SimulatedMailbox& mailbox)
     : m_process(mailClientVersion, defaultAccount),
+      m_mailbox(mailbox),
       m_relay(m_process.messaging, m_process.log),
       m_bandAgentLink(m_process.messaging, m_process.clock, m_process.launcher, m_process.log,
                       m_process.AddinFolder()),
@@ -57,7 +60,8 @@ SimulatedMailClient::SimulatedMailClient(int mailClientVersion, AccountKind defa
       m_agent(m_process.messaging, m_process.clock, m_process.launcher, m_process.log,
               m_paths.addinFolder),
       m_strings(m_process.StringServices()),
-      m_window(m_process, m_loop, m_settings, m_agent, m_strings, m_paths.installFile),
+      m_window(m_process, m_loop, m_settings, m_agent, m_strings, m_paths.installFile,
+               mailbox.Store()),
       m_app(ApplicationParts{m_process.process, m_process.debugger, m_process.log, m_paths,
                              m_settings, m_agent, m_strings, m_window}) {
     m_process.profile.SetJournal(&m_process.journal);
@@ -178,6 +182,17 @@ void SimulatedMailClient::ShutDown() {
     Settle();
     m_app.ExitInstance();
     m_controllerWindow = nullptr;
+}
+
+void SimulatedMailClient::SetUserSetting(const std::wstring& section, const std::wstring& key,
+                                         const std::wstring& value) {
+    ZelCommon::Path::CreateFolderWithParents(m_paths.userFolder);
+    m_process.profile.WriteString(section.c_str(), key.c_str(), value.c_str(),
+                                  m_paths.userFile.c_str());
+}
+
+void SimulatedMailClient::JournalFolder(const std::wstring& name, Orva::MailStore::StoreId folder) {
+    m_process.journal.Add(m_mailbox.Describe(name, folder));
 }
 
 std::vector<std::wstring> SimulatedMailClient::TakeNewEntries() {

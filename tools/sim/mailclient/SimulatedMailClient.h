@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "SimulatedControllerWindow.h"
+#include "SimulatedMailbox.h"
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
 #include "plugin/ORVA_WLMAApp.h"
@@ -21,8 +22,9 @@ namespace Orva::Sim {
 // action the client's message loop runs until it is idle and a second goes by.
 class SimulatedMailClient {
 public:
-    explicit SimulatedMailClient(int mailClientVersion,
-                                 AccountKind defaultAccount = AccountKind::Pop);
+    // `mailbox` is the user's mail store, which outlives the session.
+    SimulatedMailClient(int mailClientVersion, AccountKind defaultAccount,
+                        SimulatedMailbox& mailbox);
     ~SimulatedMailClient();
     SimulatedMailClient(const SimulatedMailClient&) = delete;
     SimulatedMailClient& operator=(const SimulatedMailClient&) = delete;
@@ -47,6 +49,12 @@ public:
     // The host reports the shut-down, then unloads the add-in.
     void ShutDown();
 
+    // A setting of the user's own settings file, as the user would have chosen it.
+    void SetUserSetting(const std::wstring& section, const std::wstring& key,
+                        const std::wstring& value);
+    // What a folder of the mailbox holds now, as a journal entry.
+    void JournalFolder(const std::wstring& name, Orva::MailStore::StoreId folder);
+
     // The journal entries written since the previous call.
     std::vector<std::wstring> TakeNewEntries();
 
@@ -62,6 +70,7 @@ private:
 
     // Wired as the add-in's DLL wires itself, on the simulated process.
     SimulatedProcess m_process;
+    SimulatedMailbox& m_mailbox;
     SimulatedMessageLoop m_loop;
     Orva::Plugin::CHostEventRelay m_relay;
     // The classic band's buttons talk to the agent themselves, through a link of their own.
