@@ -12,6 +12,7 @@
 #include "mailstore/SpamFolderRig.h"
 #include "mailstore/StoreContract_win.h"
 #include "mailstore/StoreError.h"
+#include "support/MemberDispatch_win.h"
 
 namespace Orva::MailStore {
 namespace {
@@ -19,76 +20,11 @@ namespace {
 using Microsoft::WRL::ComPtr;
 namespace C = StoreContract;
 
-// Fills in the result from the arguments (in their declared order), or fails.
-using Member = std::function<HRESULT(const std::vector<VARIANT>& args, VARIANT& result)>;
+using Testing::MakeMemberDispatch;
+using Testing::Member;
+using Testing::MemberDispatch;
 
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-// A host object that knows its members only by name, as the host's store objects do. A failing
-// member reports itself through EXCEPINFO, as automation objects do.
-class FakeDispatch final : public IDispatch {
-public:
-    std::map<std::wstring, Member> members;
-
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        if (iid != IID_IUnknown && iid != IID_IDispatch) {
-            *object = nullptr;
-            return E_NOINTERFACE;
-        }
-        *object = static_cast<IDispatch*>(this);
-        AddRef();
-        return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override {
-        const ULONG left = --m_references;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
-    }
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-        *count = 0;
-        return S_OK;
-    }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
-        const auto found = members.find(names[0]);
-        *ids = found == members.end() ? DISPID_UNKNOWN
-                                      : static_cast<DISPID>(std::distance(members.begin(), found));
-        return found == members.end() ? DISP_E_UNKNOWNNAME : S_OK;
-    }
-    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
-                        EXCEPINFO* exception, UINT*) override {
-        if ((flags & DISPATCH_METHOD) == 0 || result == nullptr) {
-            return DISP_E_MEMBERNOTFOUND;
-        }
-        std::vector<VARIANT> args(params->rgvarg, params->rgvarg + params->cArgs);
-        std::reverse(args.begin(), args.end());
-        const HRESULT status = std::next(members.begin(), id)->second(args, *result);
-        if (SUCCEEDED(status)) {
-            return status;
-        }
-        *exception = {};
-        exception->scode = status;
-        exception->bstrDescription = ::SysAllocString(L"the store is busy");
-        return DISP_E_EXCEPTION;
-    }
-
-private:
-    ~FakeDispatch() = default;
-    ULONG m_references = 1;
-};
-#pragma GCC diagnostic pop
-
-// The one place a fake object is made; it deletes itself on its last Release.
-ComPtr<FakeDispatch> MakeFake() {
-    ComPtr<FakeDispatch> object;
-    object.Attach(new FakeDispatch());
-    return object;
-}
-
-Member Returns(const ComPtr<FakeDispatch>& object) {
+Member Returns(const ComPtr<MemberDispatch>& object) {
     return [object](auto&, VARIANT& result) {
         result.vt = VT_DISPATCH;
         result.pdispVal = object.Get();
@@ -138,8 +74,9 @@ struct ComStoreRig {
         });
     }
 
-    ComPtr<FakeDispatch> store = MakeFake(), manager = MakeFake(), account = MakeFake(),
-                         root = MakeFake(), inbox = MakeFake();
+    ComPtr<MemberDispatch> store = MakeMemberDispatch(), manager = MakeMemberDispatch(),
+                           account = MakeMemberDispatch(), root = MakeMemberDispatch(),
+                           inbox = MakeMemberDispatch();
     std::vector<std::wstring> created;
     std::unique_ptr<IMailStoreFactory> factory;
 };

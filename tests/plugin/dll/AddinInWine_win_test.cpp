@@ -18,6 +18,8 @@
 #include "support/MessagePump_win.h"
 #include "support/ProgramFolder.h"
 #include "support/TempFolder.h"
+#include "support/fakes/mailstore/ComMailStoreFacade_win.h"
+#include "support/fakes/mailstore/FakeMailStore.h"
 #include "tools/sim/agent/SimAgentProtocol.h"
 
 namespace Orva::Plugin {
@@ -213,12 +215,12 @@ private:
 };
 #pragma GCC diagnostic pop
 
-// One host object registered in this process under its ProgID, as the plug-in host registers
-// its classes, for as long as the registration lives.
-template <class Object>
-class RegisteredHostClass {
+// An object registered in this process under its ProgID, as the plug-in host registers its
+// classes, for as long as the registration lives.
+class RegisteredObject {
 public:
-    RegisteredHostClass(const wchar_t* progId, const CLSID& classId) : m_progId(progId) {
+    RegisteredObject(const wchar_t* progId, const CLSID& classId, IUnknown& object)
+        : m_progId(progId), m_factory(object) {
         wchar_t text[40] = {};
         ::StringFromGUID2(classId, text, 40);
         // Wine's ProgID lookup reads the machine's classes only, not the user's overlay.
@@ -228,19 +230,30 @@ public:
         ::CoRegisterClassObject(classId, &m_factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
                                 &m_cookie);
     }
-    ~RegisteredHostClass() {
+    ~RegisteredObject() {
         ::CoRevokeClassObject(m_cookie);
         ::RegDeleteTreeW(HKEY_CLASSES_ROOT, m_progId.c_str());
     }
-    RegisteredHostClass(const RegisteredHostClass&) = delete;
-    RegisteredHostClass& operator=(const RegisteredHostClass&) = delete;
+    RegisteredObject(const RegisteredObject&) = delete;
+    RegisteredObject& operator=(const RegisteredObject&) = delete;
+
+private:
+    std::wstring m_progId;
+    FakeHostFactory m_factory;
+    DWORD m_cookie = 0;
+};
+
+// A fake host object of the test's, registered.
+template <class Object>
+class RegisteredHostClass {
+public:
+    RegisteredHostClass(const wchar_t* progId, const CLSID& classId)
+        : m_registration(progId, classId, Identity(object)) {}
 
     Object object;
 
 private:
-    std::wstring m_progId;
-    FakeHostFactory m_factory{Identity(object)};
-    DWORD m_cookie = 0;
+    RegisteredObject m_registration;
 };
 
 constexpr CLSID kInitClass = {
@@ -321,4 +334,75 @@ TEST_F(AddinInWine, UnloadBeforeTheHostsShutdown_UnadvisesAndReleasesTheHostsObj
 }
 
 }  // namespace
+constexpr CLSID kStoreClass = {
+    0x3f0b5a63, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x43}};
+constexpr CLSID kAccountManagerClass = {
+    0x3f0b5a64, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x44}};
+
+std::vector<uint8_t> DeleteAllRecord(uint64_t folder) {
+    std::vector<uint8_t> record(17, 0);
+    for (size_t byte = 0; byte < 8; ++byte) {
+        record[byte] = static_cast<uint8_t>(folder >> (8 * byte));
+    }
+    record[8] = 0x2A;
+    record[16] = 1;
+    return record;
+}
+
+// The spam folder on the host's store, reached by name through the store library registered
+// under its ProgIDs: made when the ribbon is built, emptied of quarantined mail when the agent's
+// process asks, and the deleted items purged at the shut-down, the user's own mail kept.
+TEST_F(AddinInWine, MailStore_SpamFolderMadeEmptiedAndPurged) {
+    ASSERT_TRUE(addin) << ::GetLastError();
+    ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
+    const std::wstring quarantined =
+        L"Subject: won\r\nX-Halvion-AntiSpamAddin-QuarantineTime: 2026/11/22\r\n";
+    const std::wstring own = L"Subject: photos\r\nX-Halvion-Scanned: yes\r\n";
+    const std::wstring userFile = (LogFolder().parent_path() / L"ORVA_WLM.ini").wstring();
+    std::filesystem::create_directories(LogFolder().parent_path());
+    ::WritePrivateProfileStringW(L"General", L"DeleteDeleted", L"1", userFile.c_str());
+    {
+        constexpr MailStore::StoreId kAccount = 0x100000000;
+        MailStore::Fakes::FakeMailStore store;
+        const MailStore::StoreId deleted = store.AddAccount(kAccount);
+        store.SetDefaultAccount(kAccount);
+        store.AddFolder(kAccount, L"Inbox");
+        store.AddMessage(deleted, quarantined);
+        store.AddMessage(deleted, own);
+        const auto storeObject = MailStore::Fakes::StoreObjectOver(store);
+        const auto managerObject = MailStore::Fakes::AccountManagerObjectOver(store);
+        RegisteredHostClass<Testing::FakeHostObject> init(L"NktWLMailApiInit.WLMailApiInit",
+                                                          kInitClass);
+        RegisteredHostClass<Testing::FakeRibbonHost> api(L"NktWLMailApi.WLMailApi", kApiClass);
+        RegisteredObject storeClass(L"NktWLMailStore.MailStore", kStoreClass, *storeObject.Get());
+        RegisteredObject managerClass(L"NktWLMailStore.MailAccountManager", kAccountManagerClass,
+                                      *managerObject.Get());
+
+        ASSERT_EQ(InitializePlugin(), TRUE);
+        const HWND agent = Testing::WaitForWindowTitled(kAgentTitle);
+        ASSERT_NE(agent, nullptr);
+        EXPECT_EQ(init.object.Fire(1, {}), S_OK);  // ready
+        // The re-query posted by the build tells the agent while it still runs.
+        EXPECT_TRUE(LogShows("@@@ CToolBarWnd::OnReQueryDefaultAccount  OUT"));
+        const std::optional<MailStore::StoreId> spam = store.SubFolderId(kAccount, L"Spam Mail");
+        ASSERT_TRUE(spam) << LogText();
+
+        store.AddMessage(*spam, quarantined);
+        store.AddMessage(*spam, own);
+        Orva::Sim::AgentCommand copy;
+        copy.delivery = Orva::Sim::Delivery::CopyData;
+        copy.copyDataId = 1078;
+        copy.payload = DeleteAllRecord(*spam);
+        EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
+        EXPECT_EQ(store.Headers(*spam), std::vector<std::wstring>{own}) << LogText();
+
+        EXPECT_EQ(init.object.Fire(2, {}), S_OK);  // shut-down
+        EXPECT_TRUE(Testing::PumpMessagesUntil([&] { return Controller() == nullptr; }));
+        EXPECT_EQ(store.Headers(deleted), std::vector<std::wstring>{own}) << LogText();
+        addin.reset();
+    }
+    ::DeleteFileW(userFile.c_str());
+    ::CoUninitialize();
+}
+
 }  // namespace Orva::Plugin
