@@ -111,7 +111,7 @@ TEST(ComMailStore, Failures_BecomeStoreErrorsWithTheirStatus) {
 
     EXPECT_EQ(failureOf([&] { inbox->Name(); }),
               std::make_pair(static_cast<int32_t>(E_ACCESSDENIED),
-                             std::string("GetName: the store is busy")));
+                             std::string("GetName: the object is busy")));
     EXPECT_EQ(failureOf([&] { inbox->MessageCount(); }).first,
               static_cast<int32_t>(DISP_E_UNKNOWNNAME));
     // No object is an answer, not a failure.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <oaidl.h>
+#include <ocidl.h>
 #include <windows.h>
 #include <wrl/client.h>
 
@@ -19,12 +20,20 @@ using Member = std::function<HRESULT(const std::vector<VARIANT>& args, VARIANT& 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 // An automation object that knows its members only by name, as the host's objects do. A failing
-// member reports itself through EXCEPINFO, as automation objects do.
+// member reports itself through EXCEPINFO with `refusal`, as automation objects do. When the
+// test gives it `connections`, that object is its connection points.
 class MemberDispatch final : public IDispatch {
 public:
     std::map<std::wstring, Member> members;
+    std::wstring refusal = L"the object is busy";
+    IUnknown* connections = nullptr;
+
+    ULONG References() const { return m_references; }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (iid == IID_IConnectionPointContainer && connections != nullptr) {
+            return connections->QueryInterface(iid, object);
+        }
         if (iid != IID_IUnknown && iid != IID_IDispatch) {
             *object = nullptr;
             return E_NOINTERFACE;
@@ -54,7 +63,7 @@ public:
     }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
                         EXCEPINFO* exception, UINT*) override {
-        if ((flags & DISPATCH_METHOD) == 0 || result == nullptr) {
+        if ((flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET)) == 0 || result == nullptr) {
             return DISP_E_MEMBERNOTFOUND;
         }
         std::vector<VARIANT> args(params->rgvarg, params->rgvarg + params->cArgs);
@@ -65,7 +74,7 @@ public:
         }
         *exception = {};
         exception->scode = status;
-        exception->bstrDescription = ::SysAllocString(L"the store is busy");
+        exception->bstrDescription = ::SysAllocString(refusal.c_str());
         return DISP_E_EXCEPTION;
     }
 

@@ -15,7 +15,6 @@ namespace {
 using Microsoft::WRL::ComPtr;
 using ZelCommon::Win32::CallMethod;
 using ZelCommon::Win32::ComCallError;
-using ZelCommon::Win32::Variant;
 namespace Method = HostContract::ToolbarMethod;
 
 // The host's failure, as the controller's parts know it.

@@ -180,8 +180,8 @@ TEST_F(AddinInWine, CopyDataFromTheAgentsProcess_AWholeFlaggedRecordAsksToDelete
 IUnknown& Identity(Testing::FakeHostObject& object) {
     return static_cast<IConnectionPointContainer&>(object);
 }
-IUnknown& Identity(Testing::FakeRibbonHost& object) {
-    return static_cast<IDispatch&>(object);
+IUnknown& Identity(Testing::FakeRibbonHost& host) {
+    return *host.object.Get();
 }
 
 // Hands out one fake host object, as the plug-in host's class factory would.
@@ -271,6 +271,7 @@ TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
                                                           kInitClass);
         RegisteredHostClass<Testing::FakeRibbonHost> api(L"NktWLMailApi.WLMailApi", kApiClass);
         Testing::FakeHostObject& apiEvents = api.object.events;
+        const ULONG apiReferencesBeforeTheAddin = api.object.object->References();
 
         ASSERT_EQ(InitializePlugin(), TRUE);
         ASSERT_NE(init.object.sink, nullptr) << "the init sink was not advised";
@@ -283,7 +284,7 @@ TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
         EXPECT_TRUE(LogShows("dump button ID: 500, 501, 503, 504, 505, 506, 507, 508, 510"))
             << LogText();
         ASSERT_EQ(api.object.entries.size(), 5u);
-        EXPECT_EQ(api.object.entries[1]->points.Fire(1, {}), S_OK);  // statistics
+        EXPECT_EQ(api.object.entries[1]->Fire(1, {}), S_OK);  // statistics
         EXPECT_TRUE(LogShows("### The statistics dialog is not part of this build yet"));
 
         EXPECT_EQ(apiEvents.Fire(3, {Testing::Int64Arg(0x100000002)}), S_OK);
@@ -300,11 +301,11 @@ TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
         EXPECT_EQ(init.object.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
         EXPECT_EQ(apiEvents.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
         for (const auto& entry : api.object.entries) {
-            EXPECT_EQ(entry->points.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
+            EXPECT_EQ(entry->calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
         }
         addin.reset();
         EXPECT_EQ(init.object.references, 0u);
-        EXPECT_EQ(api.object.references, 0u);
+        EXPECT_EQ(api.object.object->References(), apiReferencesBeforeTheAddin);
         EXPECT_EQ(apiEvents.references, 0u);
     }
     ::CoUninitialize();

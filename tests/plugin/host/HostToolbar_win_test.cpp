@@ -20,7 +20,7 @@ using testing::HasSubstr;
 using Testing::Signed;
 
 struct ToolbarRig {
-    ToolbarRig() { toolbar.Attach(Microsoft::WRL::ComPtr<IUnknown>(&host)); }
+    ToolbarRig() { toolbar.Attach(host.object); }
 
     Testing::HostEventRig events;
     FakeRibbonHost host;
@@ -57,15 +57,15 @@ TEST(HostToolbar, DropDownEntry_ClicksPostItsEventUntilReleased) {
     rig.toolbar.AddDropDownEntry(500, 501, L"About", DropDownEntry::About);
     ASSERT_EQ(rig.host.entries.size(), 2u);
 
-    EXPECT_EQ(rig.host.entries[1]->points.Fire(1, {}), S_OK);
-    EXPECT_EQ(rig.host.entries[0]->points.Fire(2, {}), S_OK);
+    EXPECT_EQ(rig.host.entries[1]->Fire(1, {}), S_OK);
+    EXPECT_EQ(rig.host.entries[0]->Fire(2, {}), S_OK);
     EXPECT_THAT(rig.events.Messages(),
                 ElementsAre(ControllerMessageRecord{4031, Signed(-1), DropDownEntry::About},
                             ControllerMessageRecord{4031, Signed(-1), DropDownEntry::OnOff}));
 
     rig.toolbar.Release();
-    EXPECT_EQ(rig.host.entries[0]->points.sink, nullptr);
-    EXPECT_EQ(rig.host.entries[1]->points.sink, nullptr);
+    EXPECT_EQ(rig.host.entries[0]->sink, nullptr);
+    EXPECT_EQ(rig.host.entries[1]->sink, nullptr);
     EXPECT_THROW(rig.toolbar.CreateGroup(L"ORVA"), HostCallError);
 }
 
@@ -85,8 +85,8 @@ TEST(HostToolbar, Failures_BecomeHostErrorsWithTheHostsWords) {
     Testing::HostEventRig events;
     CHostToolbar detached(events.relay, events.log);
     EXPECT_THROW(detached.CreateGroup(L"ORVA"), HostCallError);
-    Testing::FakeRibbonEntry notAHost(7);
-    detached.Attach(Microsoft::WRL::ComPtr<IUnknown>(&notAHost));
+    const auto notAHost = Testing::MakeMemberDispatch();
+    detached.Attach(notAHost);
     EXPECT_THROW(detached.CreateGroup(L"ORVA"), HostCallError);
     detached.Release();
 }

@@ -23,28 +23,6 @@ void PutLittleEndian(std::span<std::byte> out, uint64_t value) {
     }
 }
 
-// "ribbon 1003 entry 1 of 1001 \"Statistics\"", with the image's file name and the tooltip when
-// the item has them, and "disabled" when it is greyed.
-std::wstring DescribeRibbonItem(const ZelCommon::Fakes::FakeRibbonItem& item) {
-    using ZelCommon::Text::Format;
-    std::wstring text = Format(L"ribbon %d ", item.id);
-    if (item.id == item.group) {
-        text += L"group";
-    } else if (item.entryEvent >= 0) {
-        text += Format(L"entry %d of %d", item.entryEvent, item.parent);
-    } else {
-        text += L"button";
-    }
-    text += L" \"" + item.caption + L"\"";
-    if (!item.image.empty()) {
-        text += L" image " + item.image.substr(item.image.find_last_of(L"\\/") + 1);
-    }
-    if (!item.tooltip.empty()) {
-        text += L" tooltip \"" + item.tooltip + L"\"";
-    }
-    return item.enabled ? text : text + L" disabled";
-}
-
 }  // namespace
 
 SimulatedMailClient::SimulatedMailClient(int mailClientVersion, AccountKind defaultAccount,
@@ -95,7 +73,7 @@ void SimulatedMailClient::HostReady() {
 void SimulatedMailClient::JournalRibbon() {
     if (m_controllerWindow != nullptr) {
         for (const ZelCommon::Fakes::FakeRibbonItem& item : m_controllerWindow->Toolbar().items) {
-            m_process.journal.Add(DescribeRibbonItem(item));
+            m_process.journal.Add(L"ribbon " + item.Describe());
         }
     }
 }

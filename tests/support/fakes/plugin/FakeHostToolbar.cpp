@@ -4,6 +4,25 @@
 
 namespace ZelCommon::Fakes {
 
+std::wstring FakeRibbonItem::Describe() const {
+    std::wstring text = std::to_wstring(id);
+    if (id == group) {
+        text += L" group";
+    } else if (entryEvent >= 0) {
+        text += L" entry " + std::to_wstring(entryEvent) + L" of " + std::to_wstring(parent);
+    } else {
+        text += L" button";
+    }
+    text += L" \"" + caption + L"\"";
+    if (!image.empty()) {
+        text += L" image " + image.substr(image.find_last_of(L"\\/") + 1);
+    }
+    if (!tooltip.empty()) {
+        text += L" tooltip \"" + tooltip + L"\"";
+    }
+    return enabled ? text : text + L" disabled";
+}
+
 void FakeHostToolbar::Call() {
     if (++m_calls == m_failingCall) {
         throw Orva::Plugin::HostCallError("Unspecified error");

@@ -18,6 +18,10 @@ struct FakeRibbonItem {
     std::wstring tooltip;
     int32_t entryEvent = -1;
     bool enabled = true;
+
+    // "1003 entry 1 of 1001 \"Statistics\"", with the image's file name and the tooltip when the
+    // item has them, and "disabled" when it is greyed.
+    std::wstring Describe() const;
 };
 
 // The host's ribbon as a list of items, ids handed out from `firstId` up. A test can make one
