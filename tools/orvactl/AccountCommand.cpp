@@ -32,23 +32,12 @@ private:
 std::optional<AccountQuery> ParseQuery(std::span<const std::wstring> args, ITextSink& err,
                                        int& exitCode) {
     AccountQuery query;
-    for (size_t at = 0; at < args.size(); ++at) {
-        const auto [name, value] = TakeNamedOption(args, at);
-        std::wstring* target = name == L"--data-folder" ? &query.dataFolder
-                               : name == L"--account"   ? &query.account
-                                                        : nullptr;
-        if (target == nullptr) {
-            exitCode = ReportUsageError(err, L"unknown option for 'account': " + name);
-            return std::nullopt;
-        }
-        if (!value || value->empty()) {
-            exitCode = ReportUsageError(err, name + L" needs a value");
-            return std::nullopt;
-        }
-        *target = *value;
-    }
-    if (query.dataFolder.empty() || query.account.empty()) {
-        exitCode = ReportUsageError(err, L"'account' needs --data-folder DIR and --account NAME");
+    const RequiredOption options[] = {{L"--data-folder", &query.dataFolder},
+                                      {L"--account", &query.account}};
+    if (const std::optional<int> failed =
+            TakeRequiredOptions(args, options, L"account", L"a value",
+                                L"'account' needs --data-folder DIR and --account NAME", err)) {
+        exitCode = *failed;
         return std::nullopt;
     }
     return query;

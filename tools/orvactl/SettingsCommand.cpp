@@ -24,23 +24,12 @@ struct Folders {
 std::optional<Folders> ParseFolders(std::span<const std::wstring> args, ITextSink& err,
                                     int& exitCode) {
     Folders folders;
-    for (size_t at = 0; at < args.size(); ++at) {
-        const auto [name, value] = TakeNamedOption(args, at);
-        std::wstring* target = name == L"--install-dir" ? &folders.install
-                               : name == L"--user-dir"  ? &folders.user
-                                                        : nullptr;
-        if (target == nullptr) {
-            exitCode = ReportUsageError(err, L"unknown option for 'settings': " + name);
-            return std::nullopt;
-        }
-        if (!value || value->empty()) {
-            exitCode = ReportUsageError(err, name + L" needs a folder");
-            return std::nullopt;
-        }
-        *target = *value;
-    }
-    if (folders.install.empty() || folders.user.empty()) {
-        exitCode = ReportUsageError(err, L"'settings' needs --install-dir DIR and --user-dir DIR");
+    const RequiredOption options[] = {{L"--install-dir", &folders.install},
+                                      {L"--user-dir", &folders.user}};
+    if (const std::optional<int> failed =
+            TakeRequiredOptions(args, options, L"settings", L"a folder",
+                                L"'settings' needs --install-dir DIR and --user-dir DIR", err)) {
+        exitCode = *failed;
         return std::nullopt;
     }
     return folders;
