@@ -352,7 +352,8 @@ std::vector<uint8_t> DeleteAllRecord(uint64_t folder) {
 
 // The spam folder on the host's store, reached by name through the store library registered
 // under its ProgIDs: made when the ribbon is built, emptied of quarantined mail when the agent's
-// process asks, and the deleted items purged at the shut-down, the user's own mail kept.
+// process asks, looked for again when the default account changes, and the deleted items purged
+// at the shut-down, the user's own mail kept.
 TEST_F(AddinInWine, MailStore_SpamFolderMadeEmptiedAndPurged) {
     ASSERT_TRUE(addin) << ::GetLastError();
     ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
@@ -371,7 +372,9 @@ TEST_F(AddinInWine, MailStore_SpamFolderMadeEmptiedAndPurged) {
         store.AddMessage(deleted, quarantined);
         store.AddMessage(deleted, own);
         const auto storeObject = MailStore::Fakes::StoreObjectOver(store);
-        const auto managerObject = MailStore::Fakes::AccountManagerObjectOver(store);
+        Testing::FakeHostObject managerEvents;
+        const auto managerObject = MailStore::Fakes::AccountManagerObjectOver(
+            store, static_cast<IConnectionPointContainer*>(&managerEvents));
         RegisteredHostClass<Testing::FakeHostObject> init(L"NktWLMailApiInit.WLMailApiInit",
                                                           kInitClass);
         RegisteredHostClass<Testing::FakeRibbonHost> api(L"NktWLMailApi.WLMailApi", kApiClass);
@@ -397,9 +400,16 @@ TEST_F(AddinInWine, MailStore_SpamFolderMadeEmptiedAndPurged) {
         EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
         EXPECT_EQ(store.Headers(*spam), std::vector<std::wstring>{own}) << LogText();
 
+        // The user makes another account the default: the add-in looks for its folder again.
+        ASSERT_NE(managerEvents.sink, nullptr) << "the account manager's sink was not advised";
+        EXPECT_EQ(managerEvents.Fire(1, {}), S_OK);
+        EXPECT_TRUE(LogShows("get the folder name in create spam folder = Spam Mail"));
+
         EXPECT_EQ(init.object.Fire(2, {}), S_OK);  // shut-down
         EXPECT_TRUE(Testing::PumpMessagesUntil([&] { return Controller() == nullptr; }));
         EXPECT_EQ(store.Headers(deleted), std::vector<std::wstring>{own}) << LogText();
+        // The manager's sink goes with the store's objects, before COM does.
+        EXPECT_EQ(managerEvents.calls, (std::vector<std::wstring>{L"advise", L"unadvise 42"}));
         addin.reset();
     }
     ::DeleteFileW(userFile.c_str());

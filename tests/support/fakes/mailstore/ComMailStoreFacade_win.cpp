@@ -128,9 +128,10 @@ ComPtr<IDispatch> StoreObjectOver(IMailStoreFactory& factory) {
     return object;
 }
 
-ComPtr<IDispatch> AccountManagerObjectOver(IMailStoreFactory& factory) {
+ComPtr<IDispatch> AccountManagerObjectOver(IMailStoreFactory& factory, IUnknown* connections) {
     const std::shared_ptr<IAccountManager> manager = factory.CreateAccountManager();
     const auto object = MakeMemberDispatch();
+    object->connections = connections;
     object->members[C::kGetDefaultAccount] = [manager](auto&, VARIANT& r) {
         return Answer([&] {
             const std::shared_ptr<IAccount> account = manager->DefaultAccount();
