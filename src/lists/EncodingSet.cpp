@@ -116,8 +116,8 @@ void CEncodingSet::Load(const std::wstring& path) {
     }
 }
 
-void CEncodingSet::Save(const std::wstring& path) const {
-    ZelCommon::Platform::ReplaceFileContents(path, EncodeListText(Format()));
+uint32_t CEncodingSet::Save(const std::wstring& path) const {
+    return ZelCommon::Platform::ReplaceFileContents(path, EncodeListText(Format()));
 }
 
 }  // namespace Orva::Lists

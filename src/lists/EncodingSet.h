@@ -30,8 +30,8 @@ class CEncodingSet {
 public:
     // Replaces the set with the file's content; a missing or unreadable file leaves it empty.
     void Load(const std::wstring& path);
-    // A file that cannot be written leaves the old one and is not reported.
-    void Save(const std::wstring& path) const;
+    // A file that cannot be written is left as it was; answers the Win32 error (0 when saved).
+    uint32_t Save(const std::wstring& path) const;
 
     // The file's text for the current content.
     std::wstring Format() const;

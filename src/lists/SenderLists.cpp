@@ -21,10 +21,13 @@ std::wstring EncodingsPath(const std::wstring& dataFolder) {
     return ZelCommon::Path::ChildFile(dataFolder, kEncodingsFileName);
 }
 
-void ApplyEncodings(const CEncodingSet& encodings, const std::wstring& dataFolder,
+bool ApplyEncodings(const CEncodingSet& encodings, const std::wstring& dataFolder,
                     IListChangeNotifier& notifier) {
-    encodings.Save(EncodingsPath(dataFolder));
+    if (encodings.Save(EncodingsPath(dataFolder)) != 0) {
+        return false;
+    }
     notifier.EncodingsChanged();
+    return true;
 }
 
 }  // namespace Orva::Lists

@@ -19,8 +19,9 @@ SenderListPaths SenderListPathsIn(const std::wstring& dataFolder);
 
 std::wstring EncodingsPath(const std::wstring& dataFolder);
 
-// Saves the blocked encodings, then tells the agent.
-void ApplyEncodings(const CEncodingSet& encodings, const std::wstring& dataFolder,
+// Saves the blocked encodings, then tells the agent; an agent told of a file that could not be
+// written would reread the old one. False when the file could not be written.
+bool ApplyEncodings(const CEncodingSet& encodings, const std::wstring& dataFolder,
                     IListChangeNotifier& notifier);
 
 }  // namespace Orva::Lists
