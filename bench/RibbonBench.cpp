@@ -6,7 +6,7 @@
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Path.h"
-#include "plugin/controller/LoaderStrings.h"
+#include "settings/localisation/LoaderStrings.h"
 #include "plugin/controller/RibbonToolbar.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 #include "support/fakes/platform/FakeClock.h"
@@ -41,7 +41,7 @@ void BM_BuildRibbonToolbar(benchmark::State& state) {
     ZelResourceStringLoader loader(Orva::Settings::StringLoaderServices{
         profile, registry, locale, process, log, [] { return false; },
         ZelCommon::Path::ChildFolder(install.wstring(), L"")});
-    Orva::Plugin::CLoaderStrings strings(loader, (install / "ORVA_WLM.ini").wstring(), profile);
+    Orva::Settings::CLoaderStrings strings(loader, (install / "ORVA_WLM.ini").wstring(), profile);
 
     for (auto _ : state) {
         ZelCommon::Fakes::FakeHostToolbar toolbar;

@@ -14,6 +14,7 @@ CAgentLink::CAgentLink(ZelCommon::Platform::IWindowMessaging& messaging,
                        ZelCommon::Platform::IProcessLauncher& launcher,
                        ZelCommon::Library::DebugLog& log, std::wstring pluginFolder)
     : m_messaging(messaging),
+      m_notices(messaging),
       m_clock(clock),
       m_launcher(launcher),
       m_log(log),
@@ -51,11 +52,11 @@ void CAgentLink::ShutdownShadowEX(uint32_t retries, uint32_t intervalMillisecond
 }
 
 WindowHandle CAgentLink::FindAgentWindow() {
-    return m_messaging.FindByTitle(std::wstring(kAgentWindowTitle));
+    return m_notices.FindAgentWindow();
 }
 
 bool CAgentLink::IsSuiteBusy() {
-    return m_messaging.FindByTitle(std::wstring(kSuiteWindowTitle)) != 0;
+    return m_notices.IsSuiteBusy();
 }
 
 void CAgentLink::SendButtonCommand(uint32_t message) {
@@ -68,15 +69,7 @@ void CAgentLink::SendButtonCommand(uint32_t message) {
 }
 
 std::optional<intptr_t> CAgentLink::Notify(uint32_t message, uintptr_t wParam, intptr_t lParam) {
-    const WindowHandle agent = FindAgentWindow();
-    if (agent == 0) {
-        return std::nullopt;
-    }
-    if (DeliveryOf(message) == AgentDelivery::Sent) {
-        return m_messaging.Send(agent, message, wParam, lParam);
-    }
-    m_messaging.Post(agent, message, wParam, lParam);
-    return 0;
+    return m_notices.Notify(message, wParam, lParam);
 }
 
 }  // namespace Orva::Plugin

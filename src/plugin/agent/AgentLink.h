@@ -7,6 +7,7 @@
 #include "common_src/platform/Clock.h"
 #include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/WindowMessaging.h"
+#include "plugin/agent/AgentNotices.h"
 #include "settings/log/DebugLog.h"
 
 namespace Orva::Plugin {
@@ -41,6 +42,7 @@ public:
 
 private:
     ZelCommon::Platform::IWindowMessaging& m_messaging;
+    CAgentNotices m_notices;
     ZelCommon::Platform::IClock& m_clock;
     ZelCommon::Platform::IProcessLauncher& m_launcher;
     ZelCommon::Library::DebugLog& m_log;

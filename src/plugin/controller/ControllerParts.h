@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "settings/localisation/LocalisedStrings.h"
+
 namespace Orva::Plugin {
 
 // The nine ids the host gave the ribbon items, in the order they are logged.
@@ -82,15 +84,6 @@ public:
     virtual void ImportContacts() = 0;
 };
 
-// Localised texts by string id.
-class ILocalisedStrings {
-public:
-    virtual ~ILocalisedStrings() = default;
-    virtual std::wstring Load(const std::wstring& id) = 0;
-    // The text as the user sees it, its placeholders ("<$PRODUCT NAME>", ...) expanded.
-    virtual std::wstring LoadShown(const std::wstring& id) = 0;
-    // Frees the loader's table at shut-down.
-    virtual void Release() = 0;
-};
+using Settings::ILocalisedStrings;
 
 }  // namespace Orva::Plugin

@@ -12,7 +12,7 @@
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/agent/AgentLink.h"
 #include "plugin/controller/CommandDialogs.h"
-#include "plugin/controller/LoaderStrings.h"
+#include "settings/localisation/LoaderStrings.h"
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailClientVersion.h"
 #include "plugin/controller/MailStoreSpamFolder.h"
@@ -56,7 +56,7 @@ private:
     std::unique_ptr<ZelCommon::Platform::IEvent> m_shutdownDone;
     std::unique_ptr<ZelCommon::Platform::IWindowProcedureHook> m_hook;
     CMailClientVersion m_version;
-    CLoaderStrings m_strings;
+    Orva::Settings::CLoaderStrings m_strings;
     CRibbonToolbar m_ribbon;
     CMailClientAccountCheck m_accountCheck;
     CPendingParts m_pending;

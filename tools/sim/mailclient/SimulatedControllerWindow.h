@@ -11,7 +11,7 @@
 #include "mailstore/SpamFolderStrings.h"
 #include "mailstore/SpamMailFolder.h"
 #include "plugin/ORVA_WLMAApp.h"
-#include "plugin/controller/LoaderStrings.h"
+#include "settings/localisation/LoaderStrings.h"
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailStoreSpamFolder.h"
 #include "plugin/controller/RibbonToolbar.h"
@@ -62,7 +62,7 @@ private:
     SimulatedProcess& m_process;
     SimulatedMessageLoop& m_loop;
     ZelCommon::Fakes::FakeHostObjects m_host;
-    Orva::Plugin::CLoaderStrings m_strings;
+    Orva::Settings::CLoaderStrings m_strings;
     Orva::Plugin::CRibbonToolbar m_ribbon;
     ZelCommon::Fakes::FakeClassicBand m_classic;
     Orva::Plugin::CMailClientAccountCheck m_account;

@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "common_src/ZelCommon/ProfileApi.h"
-#include "plugin/controller/ControllerParts.h"
+#include "settings/localisation/LocalisedStrings.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 
-namespace Orva::Plugin {
+namespace Orva::Settings {
 
-// The controller's localised texts from the product's string table, opened on first use and
+// The add-in's localised texts from the product's string table, opened on first use and
 // closed again at shut-down. A table that cannot be opened is not looked for again until then:
 // each attempt searches the disk and logs its failure, for every text the controller shows.
 class CLoaderStrings final : public ILocalisedStrings {
@@ -35,4 +35,4 @@ private:
     TableState m_state = TableState::NotTried;
 };
 
-}  // namespace Orva::Plugin
+}  // namespace Orva::Settings

@@ -1,4 +1,4 @@
-#include "plugin/controller/LoaderStrings.h"
+#include "settings/localisation/LoaderStrings.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-using Orva::Plugin::CLoaderStrings;
+using Orva::Settings::CLoaderStrings;
 
 class LoaderStrings : public Orva::Testing::StringLoaderTest {};
 

@@ -1,11 +1,11 @@
-#include "plugin/controller/LoaderStrings.h"
+#include "settings/localisation/LoaderStrings.h"
 
 #include "settings/localisation/Placeholders.h"
 
 #pragma push_macro("LoadString")
 #undef LoadString
 
-namespace Orva::Plugin {
+namespace Orva::Settings {
 
 std::wstring CLoaderStrings::Load(const std::wstring& id) {
     if (m_state == TableState::NotTried) {
@@ -19,7 +19,7 @@ std::wstring CLoaderStrings::LoadShown(const std::wstring& id) {
     if (m_state != TableState::Open) {
         return text;
     }
-    return Orva::Settings::ExpandPlaceholders(text, m_installFile, m_profile, m_loader);
+    return ExpandPlaceholders(text, m_installFile, m_profile, m_loader);
 }
 
 void CLoaderStrings::Release() {
@@ -27,6 +27,6 @@ void CLoaderStrings::Release() {
     m_state = TableState::NotTried;
 }
 
-}  // namespace Orva::Plugin
+}  // namespace Orva::Settings
 
 #pragma pop_macro("LoadString")
