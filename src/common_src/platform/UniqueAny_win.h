@@ -24,6 +24,15 @@ inline void UnregisterClassOfProcess(ATOM atom) noexcept {
     ::UnregisterClassW(MAKEINTATOM(atom), ::GetModuleHandleW(nullptr));
 }
 
+template <class T>
+void DeleteGdiObject(T object) noexcept {
+    ::DeleteObject(object);
+}
+
+inline void DeleteMemoryDc(HDC dc) noexcept {
+    ::DeleteDC(dc);
+}
+
 }  // namespace UniqueAnyDetail
 
 // Owns one Win32 resource and frees it with `Close` when the owner goes, in the manner of WIL's
@@ -75,5 +84,11 @@ using unique_hlocal_ptr = unique_any<T*, &::LocalFree>;
 using unique_hlocal = unique_hlocal_ptr<void>;
 using unique_hwnd = unique_any<HWND, &::DestroyWindow>;
 using unique_window_class = unique_any<ATOM, &UniqueAnyDetail::UnregisterClassOfProcess>;
+// GDI objects a window creates for its own drawing, and the memory contexts it draws them in.
+using unique_hfont = unique_any<HFONT, &UniqueAnyDetail::DeleteGdiObject<HFONT>>;
+using unique_hbrush = unique_any<HBRUSH, &UniqueAnyDetail::DeleteGdiObject<HBRUSH>>;
+using unique_hbitmap = unique_any<HBITMAP, &UniqueAnyDetail::DeleteGdiObject<HBITMAP>>;
+using unique_hpen = unique_any<HPEN, &UniqueAnyDetail::DeleteGdiObject<HPEN>>;
+using unique_hdc = unique_any<HDC, &UniqueAnyDetail::DeleteMemoryDc>;
 
 }  // namespace ZelCommon::Platform
