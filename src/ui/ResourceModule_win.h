@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+namespace Orva::Ui {
+
+// The module whose resources (dialog templates, the slider bitmap) the dialogs load: the one
+// this code is linked into, the add-in DLL or a test program, whoever loaded it.
+inline HINSTANCE ResourceModule() {
+    static const HINSTANCE module = [] {
+        HMODULE found = nullptr;
+        ::GetModuleHandleExW(
+            GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+            reinterpret_cast<LPCWSTR>(&ResourceModule), &found);
+        return found;
+    }();
+    return module;
+}
+
+}  // namespace Orva::Ui
