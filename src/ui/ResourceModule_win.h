@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace Orva::Ui {
 
 // The module whose resources (dialog templates, the slider bitmap) the dialogs load: the one
@@ -15,6 +17,15 @@ inline HINSTANCE ResourceModule() {
         return found;
     }();
     return module;
+}
+
+// That module's folder, with its final backslash.
+inline std::wstring ResourceModuleFolder() {
+    wchar_t path[MAX_PATH] = {};
+    const DWORD length = ::GetModuleFileNameW(ResourceModule(), path, MAX_PATH);
+    std::wstring folder(path, length < MAX_PATH ? length : 0);
+    folder.erase(folder.find_last_of(L'\\') + 1);
+    return folder;
 }
 
 }  // namespace Orva::Ui

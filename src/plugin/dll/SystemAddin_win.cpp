@@ -19,7 +19,7 @@ using namespace ZelCommon::Platform;
 
 CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsStore& settings,
                                      CAgentLink& agent, ZelResourceStringLoader& strings,
-                                     const std::wstring& installFile,
+                                     const Orva::Settings::SettingsPaths& paths,
                                      ZelCommon::Library::DebugLog& log)
     : m_module(module),
       m_settings(settings),
@@ -29,12 +29,15 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
       m_host(CreateSystemHostObjects(m_relay, m_log)),
       m_shutdownDone(CreateAutoResetEvent()),
       m_hook(CreateWindowProcedureHook(CToolBarWnd::MainWindowHookProcedure())),
-      m_strings(strings, installFile, ZelCommon::Storage::SystemProfileApi()),
+      m_strings(strings, paths.installFile, ZelCommon::Storage::SystemProfileApi()),
       m_ribbon(m_host->Toolbar(), m_strings, SystemProcessContext(),
                Orva::Settings::DefaultInstallFolder(), m_log),
       m_accountCheck({ZelCommon::Storage::SystemRegistryApi(), SystemProcessContext(), m_log}),
       m_pending(m_log),
-      m_dialogs(strings, SystemShellOpen(), m_pending, m_log),
+      m_addinDialogs({settings, paths, m_strings, strings, SystemShellOpen(), SystemWindowMessaging(),
+                      m_log},
+                     m_pending),
+      m_dialogs(strings, SystemShellOpen(), m_addinDialogs, m_log),
       m_mailStore(Orva::MailStore::CreateSystemMailStore()),
       m_spamFolderLoader(Orva::Settings::SystemStringLoaderServices()),
       m_spamFolderStrings(m_spamFolderLoader, ZelCommon::Storage::SystemProfileApi(),
@@ -66,6 +69,7 @@ void CSystemController::Close() {
 }
 
 void CSystemController::SetMailClientWindow(WindowHandle window) {
+    m_addinDialogs.SetMailClientWindow(window);
     if (m_window) {
         m_window->SetMailClientWindow(window);
     }
@@ -80,7 +84,7 @@ CSystemAddin::CSystemAddin(HINSTANCE module)
       m_agent(SystemWindowMessaging(), SystemClock(), SystemProcessLauncher(), m_log,
               m_paths.addinFolder),
       m_strings(Orva::Settings::SystemStringLoaderServices()),
-      m_controller(module, m_settings, m_agent, m_strings, m_paths.installFile, m_log),
+      m_controller(module, m_settings, m_agent, m_strings, m_paths, m_log),
       m_app(ApplicationParts{SystemProcessContext(), SystemDebuggerOutput(), m_log, m_paths,
                              m_settings, m_agent, m_strings, m_controller}) {}
 

@@ -20,6 +20,7 @@
 #include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarWnd_win.h"
 #include "plugin/dll/AccountManagerWatcher_win.h"
+#include "plugin/dll/AddinDialogs_win.h"
 #include "plugin/host/HostEventRelay.h"
 #include "plugin/host/HostObjects.h"
 #include "settings/SettingsPaths.h"
@@ -34,7 +35,7 @@ namespace Orva::Plugin {
 class CSystemController final : public IControllerHandle {
 public:
     CSystemController(HINSTANCE module, Orva::Settings::SettingsStore& settings, CAgentLink& agent,
-                      ZelResourceStringLoader& strings, const std::wstring& installFile,
+                      ZelResourceStringLoader& strings, const Orva::Settings::SettingsPaths& paths,
                       ZelCommon::Library::DebugLog& log);
 
     bool Open() override;
@@ -60,6 +61,7 @@ private:
     CRibbonToolbar m_ribbon;
     CMailClientAccountCheck m_accountCheck;
     CPendingParts m_pending;
+    CAddinDialogs m_addinDialogs;
     CCommandDialogs m_dialogs;
     // The spam folder on the host's store, with a string loader of its own.
     std::unique_ptr<Orva::MailStore::IMailStoreFactory> m_mailStore;

@@ -1,0 +1,28 @@
+#include "plugin/dll/AddinDialogs_win.h"
+
+#include "settings/localisation/OnlineHelpTopic.h"
+#include "ui/FilteringSheetOpener.h"
+
+namespace Orva::Plugin {
+
+CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
+    : m_agent(parts.messaging),
+      m_services{parts.settings, m_agent, parts.strings, parts.log},
+      // The fourth path is kept beside the others for the pages; none reads it.
+      m_sheetPaths{parts.paths.userFile, parts.paths.userFolder, parts.paths.addinFolder,
+                   parts.paths.dataRoot},
+      m_loader(parts.loader),
+      m_shell(parts.shell),
+      m_log(parts.log),
+      m_windows([this](std::wstring_view topic) { OpenHelpTopic(topic); }),
+      m_notYetBuilt(notYetBuilt) {}
+
+void CAddinDialogs::OpenFilteringSheet() {
+    Ui::OpenFilteringSheet(m_services, m_sheetPaths, m_windows, m_mailClient);
+}
+
+void CAddinDialogs::OpenHelpTopic(std::wstring_view topic) {
+    Settings::OpenOnlineHelpTopic(topic, m_loader, m_shell, m_log);
+}
+
+}  // namespace Orva::Plugin

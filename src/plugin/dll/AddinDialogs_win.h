@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string_view>
+
+#include "common_src/platform/ShellOpen.h"
+#include "common_src/platform/WindowMessaging.h"
+#include "plugin/agent/AgentNotices.h"
+#include "plugin/controller/ControllerParts.h"
+#include "settings/SettingsPaths.h"
+#include "settings/SettingsStore.h"
+#include "settings/localisation/ZelResourceStringLoader.h"
+#include "settings/log/DebugLog.h"
+#include "ui/FilteringSheetModel.h"
+#include "ui/PageServices.h"
+#include "ui/SheetWindows_win.h"
+
+namespace Orva::Plugin {
+
+// The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
+// filtering sheet, modal over the mail client's main window.
+class CAddinDialogs final : public ICommandDialogs {
+public:
+    struct Parts {
+        Settings::SettingsStore& settings;
+        const Settings::SettingsPaths& paths;
+        ILocalisedStrings& strings;
+        ZelResourceStringLoader& loader;
+        ZelCommon::Platform::IShellOpen& shell;
+        ZelCommon::Platform::IWindowMessaging& messaging;
+        ZelCommon::Library::DebugLog& log;
+    };
+
+    CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt);
+
+    void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) { m_mailClient = window; }
+
+    void OpenFilteringSheet() override;
+    void OpenStatistics() override { m_notYetBuilt.OpenStatistics(); }
+    void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
+    void OpenAbout() override { m_notYetBuilt.OpenAbout(); }
+    bool ShowUnsupportedServerNotice() override {
+        return m_notYetBuilt.ShowUnsupportedServerNotice();
+    }
+    void ImportContacts() override { m_notYetBuilt.ImportContacts(); }
+
+private:
+    void OpenHelpTopic(std::wstring_view topic);
+
+    CAgentNotices m_agent;
+    Ui::PageServices m_services;
+    Ui::SheetPaths m_sheetPaths;
+    ZelResourceStringLoader& m_loader;
+    ZelCommon::Platform::IShellOpen& m_shell;
+    ZelCommon::Library::DebugLog& m_log;
+    Ui::CSheetWindows m_windows;
+    ICommandDialogs& m_notYetBuilt;
+    ZelCommon::Platform::WindowHandle m_mailClient = 0;
+};
+
+}  // namespace Orva::Plugin

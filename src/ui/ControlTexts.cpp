@@ -1,0 +1,96 @@
+#include "ui/ControlTexts.h"
+
+#include "ui/DialogIds.h"
+
+namespace Orva::Ui {
+namespace {
+
+constexpr ControlText kDefaultLevel[] = {
+    {IDC_DEFAULT_TITLE, L"IDS_DEFAULT_LEVEL_TITLE"},
+    {IDC_DEFAULT_NOTE, L"IDS_DEFAULT_LEVEL_NOTE"},
+    {IDC_LABEL_HIGH, L"IDS_LEVEL_HIGH"},
+    {IDC_LABEL_MEDIUM, L"IDS_LEVEL_MEDIUM"},
+    {IDC_LABEL_LOW, L"IDS_LEVEL_LOW"},
+    {IDC_CHECK_ENABLE_IN_THE_CLOUD, L"IDS_ENABLE_IN_THE_CLOUD"},
+    {IDC_BUTTON_CUSTOM_LEVEL, L"IDS_CUSTOM_LEVEL_BUTTON"},
+};
+
+constexpr ControlText kCustomLevel[] = {
+    {IDC_CUSTOM_TITLE, L"IDS_CUSTOM_LEVEL_TITLE"},
+    {IDC_CUSTOM_NOTE, L"IDS_CUSTOM_LEVEL_NOTE"},
+    {IDC_BUTTON_CUSTOMIZE, L"IDS_CUSTOMIZE_BUTTON"},
+    {IDC_BUTTON_DEFAULT_LEVEL, L"IDS_DEFAULT_LEVEL_BUTTON"},
+    {IDC_CHECK_ENABLE_IN_THE_CLOUD, L"IDS_ENABLE_IN_THE_CLOUD"},
+};
+
+constexpr ControlText kCategoryLevel[] = {
+    {IDC_CATEGORY_NOTE, L"IDS_CATEGORY_NOTE"},
+    {IDC_LABEL_SEXUAL, L"IDS_CATEGORY_SEXUAL"},
+    {IDC_LABEL_COMMERCIAL, L"IDS_CATEGORY_COMMERCIAL"},
+    {IDC_LABEL_FINANCIAL, L"IDS_CATEGORY_FINANCIAL"},
+    {IDC_LABEL_HEALTH, L"IDS_CATEGORY_HEALTH"},
+    {IDC_LABEL_OTHER, L"IDS_CATEGORY_OTHER"},
+    {IDC_LABEL_RACIAL, L"IDS_CATEGORY_RACIAL"},
+    {IDC_LABEL_SPIRITUAL, L"IDS_CATEGORY_SPIRITUAL"},
+    {1 /* IDOK */, L"IDS_OK"},
+    {2 /* IDCANCEL */, L"IDS_CANCEL"},
+};
+
+constexpr ControlText kWorryFreeLevel[] = {
+    {IDC_WEXOR_TITLE, L"IDS_LINK_FILTER_TITLE"},
+    {IDC_WEXOR_NOTE, L"IDS_LINK_FILTER_NOTE"},
+    {IDC_CHECK_ENABLE_WEXOR, L"IDS_ENABLE_LINK_FILTER"},
+    {IDC_WEXOR_LABEL_HIGH, L"IDS_LEVEL_HIGH"},
+    {IDC_WEXOR_LABEL_MEDIUM, L"IDS_LEVEL_MEDIUM"},
+    {IDC_WEXOR_LABEL_LOW, L"IDS_LEVEL_LOW"},
+};
+
+constexpr ControlText kAdvancedPage[] = {
+    {IDC_SPAM_FOLDER_TITLE, L"IDS_SPAM_FOLDER_TITLE"},
+    {IDC_CHECK_AUTO_MOVED, L"IDS_AUTO_DELETE_SPAM"},
+    {IDC_DAYS_LABEL, L"IDS_DAYS"},
+    {IDC_BUTTON_DELETE_NOW, L"IDS_DELETE_NOW"},
+    {IDC_DELETED_TITLE, L"IDS_DELETED_ITEMS_TITLE"},
+    {IDC_CHECK_DELETE_DELETED, L"IDS_DELETE_DELETED"},
+    {IDC_NOTIFY_TITLE, L"IDS_NOTIFY_TITLE"},
+    {IDC_CHECK_NOTIFY_ICON, L"IDS_NOTIFY_ICON"},
+};
+
+constexpr ControlText kApprovedPage[] = {
+    {IDC_LIST_TITLE, L"IDS_PAGE_APPROVED"},
+    {IDC_LIST_NOTE, L"IDS_APPROVED_NOTE"},
+};
+
+constexpr ControlText kBlockedPage[] = {
+    {IDC_LIST_TITLE, L"IDS_PAGE_BLOCKED"},
+    {IDC_LIST_NOTE, L"IDS_BLOCKED_NOTE"},
+};
+
+constexpr ControlText kEncodingsPage[] = {
+    {IDC_LIST_TITLE, L"IDS_PAGE_ENCODINGS"},
+    {IDC_LIST_NOTE, L"IDS_ENCODINGS_NOTE"},
+};
+
+constexpr std::wstring_view kLevelNames[] = {L"IDS_LEVEL_HIGH", L"IDS_LEVEL_MEDIUM",
+                                             L"IDS_LEVEL_LOW"};
+
+constexpr std::wstring_view kPageTitles[] = {
+    L"IDS_PAGE_DETECTION", L"IDS_PAGE_LINK_FILTER", L"IDS_PAGE_APPROVED",
+    L"IDS_PAGE_BLOCKED",   L"IDS_PAGE_ENCODINGS",   L"IDS_PAGE_ADVANCED",
+};
+
+
+}  // namespace
+
+std::span<const ControlText> DefaultLevelTexts() { return kDefaultLevel; }
+std::span<const ControlText> CustomLevelTexts() { return kCustomLevel; }
+std::span<const ControlText> CategoryLevelTexts() { return kCategoryLevel; }
+std::span<const ControlText> WorryFreeLevelTexts() { return kWorryFreeLevel; }
+std::span<const ControlText> AdvancedPageTexts() { return kAdvancedPage; }
+std::span<const ControlText> ApprovedPageTexts() { return kApprovedPage; }
+std::span<const ControlText> BlockedPageTexts() { return kBlockedPage; }
+std::span<const ControlText> EncodingsPageTexts() { return kEncodingsPage; }
+std::span<const std::wstring_view> LevelNameIds() { return kLevelNames; }
+std::span<const std::wstring_view> PageTitleIds() { return kPageTitles; }
+
+}  // namespace Orva::Ui

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace Orva::Ui {
+
+// A control of a template and the string id of its text in the user's language.
+struct ControlText {
+    int controlId;
+    std::wstring_view stringId;
+};
+
+// The localised texts of each template of the filtering sheet.
+std::span<const ControlText> DefaultLevelTexts();
+std::span<const ControlText> CustomLevelTexts();
+std::span<const ControlText> CategoryLevelTexts();
+std::span<const ControlText> WorryFreeLevelTexts();
+std::span<const ControlText> AdvancedPageTexts();
+std::span<const ControlText> ApprovedPageTexts();
+std::span<const ControlText> BlockedPageTexts();
+std::span<const ControlText> EncodingsPageTexts();
+
+// The three entries of every category's combo box, highest level first.
+std::span<const std::wstring_view> LevelNameIds();
+
+// The tab titles of the six pages, in page order.
+std::span<const std::wstring_view> PageTitleIds();
+
+}  // namespace Orva::Ui

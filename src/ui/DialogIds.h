@@ -1,0 +1,84 @@
+// The dialog templates of the filtering sheet and their controls. Read by windres as well as by
+// the compiler, so it holds plain #defines only.
+#pragma once
+
+// Templates.
+#define IDD_SPAM_DETECTION_PAGE 6301
+#define IDD_DEFAULT_LEVEL 6039
+#define IDD_CUSTOM_LEVEL 6040
+#define IDD_CATEGORY_LEVEL 6302
+#define IDD_LINK_FILTER_PAGE 6303
+#define IDD_WORRY_FREE_LEVEL 6109
+#define IDD_ADVANCED_PAGE 6304
+#define IDD_APPROVE_SENDER_PAGE 6305
+#define IDD_BLOCK_SENDER_PAGE 6306
+#define IDD_BLOCK_ENCODING_PAGE 6307
+
+// The sheet's own buttons.
+#define IDC_SHEET_HELP 9
+#define IDC_SHEET_APPLY 12321
+
+// Default-level panel.
+#define IDC_DEFAULT_NOTE 6096
+#define IDC_DEFAULT_TITLE 6097
+#define IDC_LEVEL_SLIDER 6100
+#define IDC_LABEL_HIGH 6101
+#define IDC_LABEL_MEDIUM 6102
+#define IDC_LABEL_LOW 6103
+#define IDC_CHECK_ENABLE_IN_THE_CLOUD 6104
+#define IDC_BUTTON_CUSTOM_LEVEL 6105
+
+// Custom-level panel.
+#define IDC_CUSTOM_TITLE 6110
+#define IDC_CUSTOM_NOTE 6111
+#define IDC_BUTTON_CUSTOMIZE 6112
+#define IDC_BUTTON_DEFAULT_LEVEL 6114
+
+// Category dialog: a label, a combo box and an information icon per category.
+#define IDC_COMBO_SEXUAL 6051
+#define IDC_COMBO_COMMERCIAL 6052
+#define IDC_COMBO_FINANCIAL 6053
+#define IDC_COMBO_SPIRITUAL 6054
+#define IDC_COMBO_HEALTH 6055
+#define IDC_COMBO_RACIAL 6056
+#define IDC_COMBO_OTHER 6057
+#define IDC_LABEL_SEXUAL 6058
+#define IDC_LABEL_COMMERCIAL 6059
+#define IDC_LABEL_FINANCIAL 6060
+#define IDC_LABEL_HEALTH 6061
+#define IDC_LABEL_OTHER 6062
+#define IDC_LABEL_RACIAL 6063
+#define IDC_LABEL_SPIRITUAL 6064
+#define IDC_CATEGORY_NOTE 6065
+#define IDC_INFO_SEXUAL 6078
+#define IDC_INFO_COMMERCIAL 6079
+#define IDC_INFO_FINANCIAL 6080
+#define IDC_INFO_HEALTH 6081
+#define IDC_INFO_OTHER 6082
+#define IDC_INFO_RACIAL 6083
+#define IDC_INFO_SPIRITUAL 6084
+
+// Link-filter panel.
+#define IDC_WEXOR_TITLE 6113
+#define IDC_CHECK_ENABLE_WEXOR 6115
+#define IDC_WEXOR_SLIDER 6116
+#define IDC_WEXOR_LABEL_HIGH 6117
+#define IDC_WEXOR_LABEL_MEDIUM 6118
+#define IDC_WEXOR_LABEL_LOW 6119
+#define IDC_WEXOR_NOTE 6120
+
+// Advanced page.
+#define IDC_CHECK_DELETE_DELETED 6069
+#define IDC_EDIT_PURGE_DAYS 6070
+#define IDC_DAYS_LABEL 6071
+#define IDC_BUTTON_DELETE_NOW 6072
+#define IDC_CHECK_NOTIFY_ICON 6087
+#define IDC_CHECK_AUTO_MOVED 6090
+#define IDC_SPAM_FOLDER_TITLE 6091
+#define IDC_DELETED_TITLE 6092
+#define IDC_NOTIFY_TITLE 6093
+
+// Sender-list and encoding pages.
+#define IDC_LIST_TITLE 6130
+#define IDC_LIST_NOTE 6131
+#define IDC_LIST_VIEW 6132
