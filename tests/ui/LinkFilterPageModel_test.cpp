@@ -10,14 +10,12 @@ namespace Orva::Ui {
 namespace {
 
 using Settings::SettingId;
-using Testing::PageRig;
 
-// Until the user's file holds a choice, the installation file's switch and level show; the
-// first OK, changed or not, writes both into the user's file.
-TEST(LinkFilterPageModel, LoadAndApply_InstallFileUntilChosen_ThenBothKeysInTheUsersFile) {
+// Until the user's file holds a choice (2 is none), the installation file's switch and level
+// show; every OK, changed or not, writes both into the user's file and tells the agent.
+TEST(LinkFilterPageModel, InstallFileUntilChosen_EveryOkWritesBothKeysAndPosts1037) {
     const struct {
-        const wchar_t* userEnable;  // null: not stored
-        const wchar_t* installLevel;
+        const wchar_t *userEnable, *installLevel;  // null: not stored
         int slider;
         bool enabled;
         const wchar_t* writtenLevel;
@@ -27,8 +25,8 @@ TEST(LinkFilterPageModel, LoadAndApply_InstallFileUntilChosen_ThenBothKeysInTheU
         {L"0", L"3", 2, false, L"1"},
     };
     for (const auto& each : cases) {
-        SCOPED_TRACE(testing::Message() << (each.userEnable ? each.userEnable : L"none"));
-        PageRig rig;
+        SCOPED_TRACE(each.slider);
+        Testing::PageRig rig;
         rig.files.SetInstall(SettingId::InstallEnableWexor, L"1");
         if (each.installLevel != nullptr) {
             rig.files.SetInstall(SettingId::InstallSecurityLevel, each.installLevel);
@@ -42,26 +40,12 @@ TEST(LinkFilterPageModel, LoadAndApply_InstallFileUntilChosen_ThenBothKeysInTheU
         EXPECT_EQ(page.SliderPosition(), each.slider);
         EXPECT_EQ(page.FilterEnabled(), each.enabled);
         EXPECT_TRUE(page.Apply());
+        EXPECT_TRUE(page.Apply());
         EXPECT_EQ(rig.files.UserRaw(SettingId::EnableWexor), each.enabled ? L"1" : L"0");
         EXPECT_EQ(rig.files.UserRaw(SettingId::SecurityLevel), each.writtenLevel);
+        const auto posted = rig.Received(Plugin::AgentMessage::LinkFilterChanged);
+        EXPECT_EQ(rig.AgentReceived(), (std::vector{posted, posted}));
     }
-}
-
-TEST(LinkFilterPageModel, Apply_EveryOkOnceShownPosts1037) {
-    PageRig rig;
-    CLinkFilterPageModel page(rig.services);
-    EXPECT_FALSE(page.Apply());
-    EXPECT_EQ(rig.files.UserRaw(SettingId::EnableWexor), L"<missing>");
-    EXPECT_TRUE(rig.AgentReceived().empty());
-
-    page.Load();
-    page.SetFilterEnabled(true);
-    page.MoveSlider(7);
-    EXPECT_TRUE(page.Apply());
-    EXPECT_TRUE(page.Apply());
-    EXPECT_EQ(rig.files.UserRaw(SettingId::SecurityLevel), L"1");
-    const auto posted = PageRig::Posted(Plugin::AgentMessage::LinkFilterChanged);
-    EXPECT_EQ(rig.AgentReceived(), (std::vector{posted, posted}));
 }
 
 }  // namespace
