@@ -37,7 +37,7 @@ std::optional<int> TakeRequiredOptions(std::span<const std::wstring> args,
         *target = *value;
     }
     for (const RequiredOption& option : options) {
-        if (option.value->empty()) {
+        if (!option.optional && option.value->empty()) {
             return ReportUsageError(err, missing);
         }
     }

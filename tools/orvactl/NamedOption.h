@@ -19,10 +19,11 @@ struct NamedOption {
 // Takes the option at args[at]; when its value is the next argument, `at` moves onto it.
 NamedOption TakeNamedOption(std::span<const std::wstring> args, size_t& at);
 
-// One required option of a command and where its value goes.
+// One option of a command and where its value goes; all are required unless marked optional.
 struct RequiredOption {
     std::wstring_view name;
     std::wstring* value;
+    bool optional = false;
 };
 
 // Fills every option of `options` from the command's arguments. An unknown option, one without

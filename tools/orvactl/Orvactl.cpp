@@ -5,6 +5,7 @@
 #include "IniCommands.h"
 #include "ListsCommand.h"
 #include "SettingsCommand.h"
+#include "SheetCommand.h"
 #include "StringsCommand.h"
 
 namespace Orva::Orvactl {
@@ -74,6 +75,8 @@ std::wstring HelpText() {
     std::wstring text(kIntroHelp);
     text += kIniHelp;
     text += kSettingsHelp;
+    text += SheetHelpText();
+    text += L"\n";
     text += StringsHelpText();
     text += L"\n";
     text += kListsHeading;
@@ -103,6 +106,9 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
     }
     if (args[0] == L"settings") {
         return RunSettingsCommand(rest, out, err, api);
+    }
+    if (args[0] == L"sheet") {
+        return RunSheetCommand(rest, out, err, api);
     }
     if (args[0] == L"lists") {
         return RunListsCommand(rest, out, err);
