@@ -1,0 +1,216 @@
+#include <commctrl.h>
+#include <prsht.h>
+
+#include "plugin/dll/AddinRig_win.h"
+#include "support/ModalDriver_win.h"
+#include "ui/DialogIds.h"
+
+namespace Orva::Plugin {
+namespace {
+
+using Testing::CModalDriver;
+using Testing::FindDescendant;
+
+// The sheet of this thread: the one window with the sheet's tab strip inside.
+HWND FilteringSheet() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM data) -> BOOL {
+            if (::IsWindowVisible(window) && PropSheet_GetTabControl(window) != nullptr) {
+                *reinterpret_cast<HWND*>(data) = window;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+// The loaded add-in with the host's objects and the simulated agent: the Settings entry of
+// the ribbon opens the sheet, and a driver acts inside its modal loop as the user.
+class FilteringSheetInAddin : public AddinInWine {
+protected:
+    FilteringSheetInAddin() {
+        std::filesystem::create_directories(LogFolder().parent_path());
+        ::DeleteFileW(userFile.c_str());
+        ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        init = std::make_unique<RegisteredHostClass<Testing::FakeHostObject>>(
+            L"NktWLMailApiInit.WLMailApiInit", kInitClass);
+        api = std::make_unique<RegisteredHostClass<Testing::FakeRibbonHost>>(
+            L"NktWLMailApi.WLMailApi", kApiClass);
+    }
+    ~FilteringSheetInAddin() override {
+        if (Controller() != nullptr) {
+            init->object.Fire(2, {});  // shut-down
+            Testing::PumpMessagesUntil([&] { return Controller() == nullptr; });
+        }
+        addin.reset();
+        api.reset();
+        init.reset();
+        ::CoUninitialize();
+        ::DeleteFileW(userFile.c_str());
+    }
+
+    // Starts the add-in as the host does; false when the ribbon's Settings entry is missing.
+    bool StartAddin() {
+        if (!addin || InitializePlugin() != TRUE ||
+            Testing::WaitForWindowTitled(kAgentTitle) == nullptr) {
+            return false;
+        }
+        init->object.Fire(1, {});  // ready
+        return api->object.entries.size() == 5;
+    }
+    // Clicks Settings and runs `steps` inside the sheet's modal loop; the click returns when the
+    // sheet has closed.
+    std::string RunSheet(std::vector<CModalDriver::NamedStep> steps) {
+        CModalDriver driver(std::move(steps));
+        api->object.entries[0]->Fire(1, {});
+        return driver.Finished() ? std::string() : "stopped at: " + driver.Failure();
+    }
+    std::wstring Setting(const wchar_t* section, const wchar_t* key) const {
+        wchar_t value[64] = {};
+        ::GetPrivateProfileStringW(section, key, L"<none>", value, 64, userFile.c_str());
+        return value;
+    }
+    std::string AgentRecord() const { return Testing::ReadFileBytes(record); }
+
+    const std::wstring userFile = (LogFolder().parent_path() / L"ORVA_WLM.ini").wstring();
+    std::unique_ptr<RegisteredHostClass<Testing::FakeHostObject>> init;
+    std::unique_ptr<RegisteredHostClass<Testing::FakeRibbonHost>> api;
+    HWND sheet = nullptr;
+};
+
+// Waits for the sheet, then acts on one of its controls.
+CModalDriver::NamedStep OnControl(HWND& sheet, const char* name, int id,
+                                  std::function<void(HWND)> act) {
+    return {name, [&sheet, id, act] {
+                sheet = FilteringSheet();
+                const HWND control = sheet ? FindDescendant(sheet, id) : nullptr;
+                if (control == nullptr) {
+                    return false;
+                }
+                act(control);
+                return true;
+            }};
+}
+
+CModalDriver::NamedStep ShowPage(HWND& sheet, int page) {
+    return {"page " + std::to_string(page), [&sheet, page] {
+                PropSheet_SetCurSel(sheet, nullptr, page);
+                return TabCtrl_GetCurSel(PropSheet_GetTabControl(sheet)) == page;
+            }};
+}
+
+TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTheAgent) {
+    ::WritePrivateProfileStringW(L"General", L"ProtectLevel", L"5", userFile.c_str());
+    ASSERT_TRUE(StartAddin()) << LogText();
+
+    const std::string stopped = RunSheet({
+        OnControl(sheet, "slider to High", IDC_LEVEL_SLIDER,
+                  [](HWND slider) {
+                      ::SetFocus(slider);
+                      Testing::PressKeys({VK_HOME});
+                  }),
+        OnControl(sheet, "cloud box", IDC_CHECK_ENABLE_IN_THE_CLOUD, &Testing::Click),
+        OnControl(sheet, "custom level", IDC_BUTTON_CUSTOM_LEVEL, &Testing::Click),
+        {"category dialog",
+         [] {
+             const HWND dialog = Testing::FindDialogHolding(IDC_COMBO_SEXUAL);
+             if (dialog == nullptr) {
+                 return false;
+             }
+             ::SendDlgItemMessageW(dialog, IDC_COMBO_SEXUAL, CB_SETCURSEL, 0, 0);
+             Testing::Click(::GetDlgItem(dialog, IDOK));
+             return true;
+         }},
+        OnControl(sheet, "custom panel shown", IDC_BUTTON_CUSTOMIZE, [](HWND) {}),
+        ShowPage(sheet, 1),
+        ShowPage(sheet, 2),
+        ShowPage(sheet, 3),
+        ShowPage(sheet, 4),
+        ShowPage(sheet, 5),
+        OnControl(sheet, "notify box", IDC_CHECK_NOTIFY_ICON, &Testing::Click),
+        OnControl(sheet, "auto-move box", IDC_CHECK_AUTO_MOVED, &Testing::Click),
+        {"purge days typed",
+         [this] {
+             const HWND edit = FindDescendant(sheet, IDC_EDIT_PURGE_DAYS);
+             if (edit == nullptr || !::IsWindowEnabled(edit)) {
+                 return false;
+             }
+             ::SetFocus(edit);
+             ::SendMessageW(edit, EM_SETSEL, 0, -1);
+             Testing::TypeText(L"4x5");
+             return true;
+         }},
+        {"help", [this] {
+             Testing::Click(::GetDlgItem(sheet, IDC_SHEET_HELP));
+             return true;
+         }},
+        {"Alt+O", [this] {
+             wchar_t days[8] = {};
+             ::GetWindowTextW(FindDescendant(sheet, IDC_EDIT_PURGE_DAYS), days, 8);
+             if (std::wstring(days) != L"45") {
+                 return false;
+             }
+             Testing::PressKeys({VK_MENU, 'O'});
+             return true;
+         }},
+    });
+
+    EXPECT_EQ(stopped, "");
+    EXPECT_EQ(FilteringSheet(), nullptr);
+    EXPECT_EQ(Setting(L"General", L"GlobalLevel"), L"0");
+    EXPECT_EQ(Setting(L"General", L"ProtectLevel"), L"3");
+    EXPECT_EQ(Setting(L"General", L"SexualLevel"), L"3");
+    EXPECT_EQ(Setting(L"General", L"CommercialLevel"), L"2");
+    EXPECT_EQ(Setting(L"General", L"EnableInTheCloud"), L"0");
+    EXPECT_EQ(Setting(L"Wexor", L"EnableWexor"), L"0");
+    EXPECT_EQ(Setting(L"Wexor", L"SecurityLevel"), L"2");
+    EXPECT_EQ(Setting(L"General", L"PurgeDays"), L"45");
+    EXPECT_EQ(Setting(L"General", L"AutoMoved"), L"1");
+    EXPECT_EQ(Setting(L"General", L"NotifyIcon"), L"1");
+    EXPECT_EQ(Setting(L"General", L"DeleteDeleted"), L"0");
+    EXPECT_TRUE(LogShows("@@@ Error : Can't retrieve on-line help URL from registry."));
+    EXPECT_TRUE(Testing::PumpMessagesUntil([&] {
+        const std::string received = AgentRecord();
+        return received.find("posted 1036 0 0") != std::string::npos &&
+               received.find("posted 1037 0 0") != std::string::npos &&
+               received.find("sent 1044 0 0") != std::string::npos;
+    })) << AgentRecord();
+}
+
+TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
+    ASSERT_TRUE(StartAddin()) << LogText();
+    ZelCommon::Platform::unique_hwnd suite;
+
+    const std::string stopped = RunSheet({
+        OnControl(sheet, "slider moved", IDC_LEVEL_SLIDER,
+                  [&suite](HWND slider) {
+                      ::SetFocus(slider);
+                      Testing::PressKeys({VK_END});
+                      suite.reset(::CreateWindowExW(0, L"STATIC", kSuiteWindowTitle.data(),
+                                                    WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                                    nullptr, nullptr));
+                      Testing::Click(::GetDlgItem(::GetAncestor(slider, GA_ROOT), IDOK));
+                  }),
+        {"OK handled", [ticks = 0]() mutable { return ++ticks > 5; }},
+        {"still open while the suite is busy", [this, &suite] {
+             if (FilteringSheet() != sheet) {
+                 return false;
+             }
+             suite.reset();
+             Testing::PressKeys({VK_MENU, 'C'});
+             return true;
+         }},
+    });
+
+    EXPECT_EQ(stopped, "");
+    EXPECT_EQ(FilteringSheet(), nullptr);
+    EXPECT_EQ(Setting(L"General", L"ProtectLevel"), L"<none>");
+    EXPECT_EQ(Setting(L"Wexor", L"EnableWexor"), L"<none>");
+    EXPECT_EQ(AgentRecord().find("posted 103"), std::string::npos) << AgentRecord();
+}
+
+}  // namespace
+}  // namespace Orva::Plugin

@@ -1,0 +1,176 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Orva::Testing {
+
+// Acts as a user inside a modal loop that the test itself entered (a sheet or dialog opened by
+// the code under test): a thread timer runs the steps in order, each until it reports done.
+// A step that does not get done within its time is a failure: the driver then cancels every
+// window of the thread until the modal loops end, so that the test goes on and reports.
+class CModalDriver {
+public:
+    using Step = std::function<bool()>;
+    struct NamedStep {
+        std::string name;
+        Step step;
+    };
+
+    explicit CModalDriver(std::vector<NamedStep> steps, DWORD stepMilliseconds = 10000)
+        : m_steps(std::move(steps)), m_stepMilliseconds(stepMilliseconds) {
+        Current() = this;
+        m_stepStart = ::GetTickCount();
+        m_timer = ::SetTimer(nullptr, 0, 30, &Tick);
+    }
+    ~CModalDriver() {
+        ::KillTimer(nullptr, m_timer);
+        Current() = nullptr;
+    }
+    CModalDriver(const CModalDriver&) = delete;
+    CModalDriver& operator=(const CModalDriver&) = delete;
+
+    bool Finished() const { return m_next == m_steps.size() && m_failure.empty(); }
+    // The step that timed out, or empty.
+    const std::string& Failure() const { return m_failure; }
+
+private:
+    static CModalDriver*& Current() {
+        thread_local CModalDriver* current = nullptr;
+        return current;
+    }
+
+    static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
+        if (CModalDriver* driver = Current(); driver != nullptr && !driver->m_running) {
+            driver->m_running = true;
+            driver->Advance();
+            driver->m_running = false;
+        }
+    }
+
+    void Advance() {
+        if (!m_failure.empty()) {
+            CancelEverything();
+            return;
+        }
+        while (m_next < m_steps.size()) {
+            if (!m_steps[m_next].step()) {
+                if (::GetTickCount() - m_stepStart > m_stepMilliseconds) {
+                    m_failure = m_steps[m_next].name;
+                    CancelEverything();
+                }
+                return;
+            }
+            ++m_next;
+            m_stepStart = ::GetTickCount();
+        }
+    }
+
+    static void CancelEverything() {
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND window, LPARAM) -> BOOL {
+                if (::IsWindowVisible(window)) {
+                    ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+                }
+                return TRUE;
+            },
+            0);
+    }
+
+    std::vector<NamedStep> m_steps;
+    DWORD m_stepMilliseconds;
+    size_t m_next = 0;
+    DWORD m_stepStart = 0;
+    UINT_PTR m_timer = 0;
+    bool m_running = false;
+    std::string m_failure;
+};
+
+// The control with `controlId` anywhere under `root` (pages and panels nest dialogs).
+inline HWND FindDescendant(HWND root, int controlId) {
+    struct Search {
+        int id;
+        HWND found;
+    } search{controlId, nullptr};
+    ::EnumChildWindows(
+        root,
+        [](HWND child, LPARAM data) -> BOOL {
+            auto& wanted = *reinterpret_cast<Search*>(data);
+            if (::GetDlgCtrlID(child) == wanted.id && ::IsWindowVisible(child)) {
+                wanted.found = child;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+// A visible top-level window of this thread that holds a control with `controlId` somewhere
+// inside.
+inline HWND FindDialogHolding(int controlId) {
+    struct Search {
+        int id;
+        HWND found;
+    } search{controlId, nullptr};
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM data) -> BOOL {
+            auto& wanted = *reinterpret_cast<Search*>(data);
+            if (::IsWindowVisible(window) && FindDescendant(window, wanted.id) != nullptr) {
+                wanted.found = window;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+// Keys pressed in order and released in reverse, through the system's input queue, as a
+// keyboard would type them into the focused window.
+inline void PressKeys(std::initializer_list<WORD> keys) {
+    std::vector<INPUT> inputs;
+    for (const WORD key : keys) {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        inputs.push_back(input);
+    }
+    for (auto key = keys.end(); key != keys.begin();) {
+        --key;
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = *key;
+        input.ki.dwFlags = KEYEVENTF_KEYUP;
+        inputs.push_back(input);
+    }
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+// Characters typed into the focused window.
+inline void TypeText(const std::wstring& text) {
+    std::vector<INPUT> inputs;
+    for (const wchar_t character : text) {
+        for (const DWORD flags : {DWORD{KEYEVENTF_UNICODE}, DWORD{KEYEVENTF_UNICODE | KEYEVENTF_KEYUP}}) {
+            INPUT input{};
+            input.type = INPUT_KEYBOARD;
+            input.ki.wScan = character;
+            input.ki.dwFlags = flags;
+            inputs.push_back(input);
+        }
+    }
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+// A click on a button or check box, handled when the modal loop dispatches it.
+inline void Click(HWND button) {
+    ::PostMessageW(button, BM_CLICK, 0, 0);
+}
+
+}  // namespace Orva::Testing

@@ -1,0 +1,197 @@
+// Opens every page of the filtering sheet and the category dialog in the language Windows runs
+// in, and saves each as a BMP file for scripts/screenshots.
+//   orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE
+// INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini; LOCALE names the files.
+#include <windows.h>
+#include <commctrl.h>
+#include <prsht.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "common_src/ZelCommon/ProfileApi.h"
+#include "common_src/platform/Locale.h"
+#include "common_src/platform/WindowMessaging.h"
+#include "plugin/agent/AgentNotices.h"
+#include "settings/SettingsStore.h"
+#include "settings/localisation/LoaderStrings.h"
+#include "settings/localisation/StringLoaderServices.h"
+#include "settings/log/DebugLog.h"
+#include "support/ModalDriver_win.h"
+#include "tools/screens/WindowCapture_win.h"
+#include "ui/DialogIds.h"
+#include "ui/FilteringSheet_win.h"
+
+namespace {
+
+using Orva::Testing::CModalDriver;
+
+constexpr const wchar_t* kPageNames[] = {L"spam-detection",   L"link-filter",
+                                         L"approved-senders", L"blocked-senders",
+                                         L"blocked-encodings", L"advanced"};
+
+HWND SheetOfThisThread() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM data) -> BOOL {
+            if (::IsWindowVisible(window) && PropSheet_GetTabControl(window) != nullptr) {
+                *reinterpret_cast<HWND*>(data) = window;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+// The locale the screenshots are taken in, whatever Windows runs in: the string loader chooses
+// its table by it as it would by the system's.
+class ShotLocale final : public ZelCommon::Platform::ILocale {
+public:
+    explicit ShotLocale(const std::wstring& name) : m_lcid(::LocaleNameToLCID(name.c_str(), 0)) {}
+    uint32_t SystemDefaultLcid() const override { return m_lcid; }
+    std::wstring LcidToLocaleName(uint32_t lcid) const override {
+        return ZelCommon::Platform::SystemLocale().LcidToLocaleName(lcid);
+    }
+
+private:
+    uint32_t m_lcid;
+};
+
+// A step that lets the window paint before the next one.
+CModalDriver::NamedStep Settle() {
+    return {"settle", [ticks = 0]() mutable { return ++ticks > 8; }};
+}
+
+class ScreenRun {
+public:
+    ScreenRun(std::filesystem::path output, std::wstring installFolder, std::wstring locale)
+        : m_output(std::move(output)),
+          m_locale(std::move(locale)),
+          m_shotLocale(m_locale),
+          m_services(MakeServices(installFolder)) {}
+
+    int Run() {
+        int failures = 0;
+        for (int page = 0; page < Orva::Ui::kSheetPageCount; ++page) {
+            failures += Shoot(page, {}) ? 0 : 1;
+        }
+        failures += Shoot(0, {{"custom level",
+                               [] {
+                                   const HWND sheet = SheetOfThisThread();
+                                   const HWND button =
+                                       sheet ? Orva::Testing::FindDescendant(
+                                                   sheet, IDC_BUTTON_CUSTOM_LEVEL)
+                                             : nullptr;
+                                   if (button != nullptr) {
+                                       Orva::Testing::Click(button);
+                                   }
+                                   return button != nullptr;
+                               }},
+                              Settle(),
+                              {"category dialog", [this] {
+                                   const HWND dialog =
+                                       Orva::Testing::FindDialogHolding(IDC_COMBO_SEXUAL);
+                                   return dialog != nullptr &&
+                                          Save(dialog, L"category-level");
+                               }}})
+                        ? 0
+                        : 1;
+        return failures;
+    }
+
+private:
+    // What the pages read and write, over files of the output folder and the shipped tables.
+    class Services {
+    public:
+        Services(const Orva::Settings::SettingsFiles& files,
+                 const Orva::Settings::StringLoaderServices& loaderServices)
+            : settings(ZelCommon::Storage::SystemProfileApi(), files),
+              agent(ZelCommon::Platform::SystemWindowMessaging()),
+              loader(loaderServices),
+              strings(loader, files.installFile, ZelCommon::Storage::SystemProfileApi()),
+              page{settings, agent, strings, ZelCommon::Library::TheLog()} {}
+
+        Orva::Settings::SettingsStore settings;
+        Orva::Plugin::CAgentNotices agent;
+        ZelResourceStringLoader loader;
+        Orva::Settings::CLoaderStrings strings;
+        Orva::Ui::PageServices page;
+    };
+
+    Orva::Settings::SettingsFiles Files() const {
+        return {(m_output / L"install.ini").wstring(), (m_output / L"user.ini").wstring(),
+                (m_output / L"version.ini").wstring(), false};
+    }
+
+    std::unique_ptr<Services> MakeServices(const std::wstring& installFolder) {
+        const auto system = Orva::Settings::SystemStringLoaderServices();
+        const Orva::Settings::StringLoaderServices loaderServices{
+            system.profile, system.registry, m_shotLocale,   system.process,
+            system.log,     system.isWindows64, installFolder};
+        return std::make_unique<Services>(Files(), loaderServices);
+    }
+
+    bool Save(HWND window, const std::wstring& name) {
+        const auto file = m_output / (name + L"." + m_locale + L".bmp");
+        const bool saved = Orva::Screens::CaptureWindow(window, file.wstring());
+        std::fwprintf(stdout, L"%ls %ls\n", saved ? L"saved" : L"FAILED", file.c_str());
+        return true;
+    }
+
+    // Opens the sheet on `page`, saves it, runs `more`, and cancels.
+    bool Shoot(int page, std::vector<CModalDriver::NamedStep> more) {
+        Orva::Ui::CFilteringSheetModel model(m_services->page, {});
+        model.SetUp();
+        Orva::Ui::CFilteringSheet sheet(model, m_services->page, [](std::wstring_view) {});
+        std::vector<CModalDriver::NamedStep> steps = {
+            {"sheet", [] { return SheetOfThisThread() != nullptr; }},
+            {"page", [page] {
+                 const HWND sheet = SheetOfThisThread();
+                 PropSheet_SetCurSel(sheet, nullptr, page);
+                 return TabCtrl_GetCurSel(PropSheet_GetTabControl(sheet)) == page;
+             }},
+            Settle(),
+        };
+        if (more.empty()) {
+            steps.push_back({"save", [this, page] {
+                                 return Save(SheetOfThisThread(),
+                                             std::wstring(L"filtering-sheet-") + kPageNames[page]);
+                             }});
+        }
+        for (auto& step : more) {
+            steps.push_back(std::move(step));
+        }
+        // Escape closes the category dialog first, then the sheet.
+        steps.push_back({"close", [] {
+                             const bool dialogOpen =
+                                 Orva::Testing::FindDialogHolding(IDC_COMBO_SEXUAL) != nullptr;
+                             Orva::Testing::PressKeys({VK_ESCAPE});
+                             return !dialogOpen;
+                         }});
+        CModalDriver driver(std::move(steps));
+        const std::wstring caption = m_services->strings.LoadShown(L"IDS_STRING_FILTERING_SHEET");
+        sheet.RunModal(caption, nullptr);
+        return driver.Finished();
+    }
+
+    std::filesystem::path m_output;
+    std::wstring m_locale;
+    ShotLocale m_shotLocale;
+    std::unique_ptr<Services> m_services;
+};
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    if (argc != 4) {
+        std::fwprintf(stderr, L"usage: orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE\n");
+        return 2;
+    }
+    ::SetProcessDPIAware();
+    return ScreenRun(argv[1], argv[2], argv[3]).Run() == 0 ? 0 : 1;
+}
