@@ -38,10 +38,14 @@ public:
     void SetNotifyIcon(bool on);
 
     bool Modified() const { return m_modified; }
-    // Nothing before the page was read.
+    // What the page's OK writes once something changed, in the order it writes it; nothing
+    // before the page was read.
     Ui::PendingWrites PendingWrites() const;
+    // The sheet's OK: only for a read and modified page, writes PendingWrites(), then sends the
+    // agent 1044 if the icon box changed. False when it wrote nothing or a value could not be
+    // written (the agent is then not asked).
     bool Apply();
-    // Acts at once, whether or not the sheet's OK follows.
+    // Posts the agent 1035 (wParam 0, lParam 1) at once, whether or not the sheet's OK follows.
     void DeleteNow();
 
 private:

@@ -20,8 +20,10 @@ public:
     bool FilterEnabled() const { return m_panel.FilterEnabled(); }
     void SetFilterEnabled(bool on) { m_panel.SetFilterEnabled(on); }
 
-    // Nothing before the page was read.
+    // Both keys, as every OK writes them; nothing before the page was read.
     Ui::PendingWrites PendingWrites() const;
+    // The sheet's OK, changed or not: writes PendingWrites(), then posts the agent 1037. False
+    // before the page was read or when a value could not be written (the agent is not told).
     bool Apply();
 
 private:

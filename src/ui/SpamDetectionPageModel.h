@@ -34,7 +34,12 @@ public:
     void BackToDefault();
 
     bool Modified() const { return m_modified; }
+    // What the page's OK writes once something changed, in the order it writes it; nothing
+    // before the page was read.
     Ui::PendingWrites PendingWrites() const;
+    // The sheet's OK: only for a read and modified page, writes PendingWrites(), then posts the
+    // agent 1036. False when it wrote nothing or a value could not be written (then the page
+    // stays modified and the agent is not told).
     bool Apply();
 
 private:
