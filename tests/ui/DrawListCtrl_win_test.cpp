@@ -45,7 +45,7 @@ TEST(DrawListCtrlWin, Subclassed_FullRowsFlatBarsAndHeaderLightGrey_ProceduresBa
     // Inside the first column right of its title, and right of the last column.
     EXPECT_EQ(canvas.Pixel(90, 4), Orva::Ui::kHeaderColour);
     EXPECT_EQ(canvas.Pixel(280, 4), Orva::Ui::kHeaderColour);
-    EXPECT_TRUE(canvas.HoldsOtherThan(RECT{6, 2, 40, 14}, Orva::Ui::kHeaderColour));
+    EXPECT_LT(canvas.Count(RECT{6, 2, 40, 14}, Orva::Ui::kHeaderColour), 34 * 12);
 
     list.reset();
     EXPECT_EQ(drawList.Handle(), nullptr);

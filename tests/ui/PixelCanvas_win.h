@@ -25,26 +25,15 @@ public:
 
     HDC Dc() const { return m_dc.get(); }
     COLORREF Pixel(int x, int y) const { return ::GetPixel(m_dc.get(), x, y); }
-    // Whether any pixel of the rectangle has this colour.
-    bool Holds(const RECT& area, COLORREF colour) const {
+    // How many pixels of the rectangle have this colour.
+    int Count(const RECT& area, COLORREF colour) const {
+        int count = 0;
         for (int y = area.top; y < area.bottom; ++y) {
             for (int x = area.left; x < area.right; ++x) {
-                if (Pixel(x, y) == colour) {
-                    return true;
-                }
+                count += Pixel(x, y) == colour ? 1 : 0;
             }
         }
-        return false;
-    }
-    bool HoldsOtherThan(const RECT& area, COLORREF colour) const {
-        for (int y = area.top; y < area.bottom; ++y) {
-            for (int x = area.left; x < area.right; ++x) {
-                if (Pixel(x, y) != colour) {
-                    return true;
-                }
-            }
-        }
-        return false;
+        return count;
     }
 
 private:

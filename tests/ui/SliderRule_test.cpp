@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <optional>
 #include <variant>
 #include <vector>
 
@@ -46,19 +45,14 @@ TEST(SliderRule, KeyOrMouseX_GivesPosition) {
     }
 }
 
-TEST(SliderRule, ForBitmapSize_ThumbHalfTheHeightChannelThreeThumbsAndTwo) {
-    using Layout = std::optional<SliderBitmapLayout>;
-    const auto same = [](const Layout& a, const Layout& b) {
-        return a.has_value() == b.has_value() &&
-               (!a || (a->channelWidth == b->channelWidth && a->thumbWidth == b->thumbWidth &&
-                       a->height == b->height));
-    };
-    EXPECT_TRUE(same(SliderBitmapLayout::ForBitmapSize(208, 32), kBuiltIn));
-    EXPECT_TRUE(same(SliderBitmapLayout::ForBitmapSize(66, 32), SliderBitmapLayout{50, 16, 32}));
-    EXPECT_FALSE(SliderBitmapLayout::ForBitmapSize(65, 32));
-    EXPECT_FALSE(SliderBitmapLayout::ForBitmapSize(208, 1));
-    EXPECT_FALSE(SliderBitmapLayout::ForBitmapSize(4097, 32));
-    EXPECT_FALSE(SliderBitmapLayout::ForBitmapSize(0, 0));
+TEST(SliderRule, ForBitmapSize_ThumbHalfTheHeightChannelAtLeastThreeThumbsAndTwo) {
+    // {width, height, channel width or 0 for no layout}
+    const int cases[][3] = {{208, 32, 192}, {66, 32, 50},  {65, 32, 0},
+                            {208, 1, 0},    {4097, 32, 0}, {0, 0, 0}};
+    for (const auto& [width, height, channel] : cases) {
+        const auto layout = SliderBitmapLayout::ForBitmapSize(width, height);
+        EXPECT_EQ(layout ? layout->channelWidth : 0, channel) << width << "x" << height;
+    }
 }
 
 TEST(SliderRule, ChannelSlices_TileBothSidesAndPutEachTickZoneUnderItsThumb) {
@@ -91,42 +85,30 @@ TEST(SliderRule, ChannelSlices_TileBothSidesAndPutEachTickZoneUnderItsThumb) {
               (std::vector<Orva::Ui::SliderSlice>{{0, 192, 0, 49}}));
 }
 
-TEST(SliderRule, ThumbBox_CentredWhenHigherSqueezedWhenLower) {
-    EXPECT_EQ(CSliderRule::ThumbBox(1, 240, 49, kBuiltIn), (Orva::Ui::SliderBox{112, 8, 128, 40}));
-    EXPECT_EQ(CSliderRule::ThumbBox(5, 240, 20, kBuiltIn), (Orva::Ui::SliderBox{224, 0, 240, 20}));
-}
-
 // A bitmap file header with an information header of 40 bytes.
-std::vector<std::uint8_t> BitmapHead(std::int32_t width, std::int32_t height, int bits,
+std::vector<std::uint8_t> BitmapHead(std::int32_t width, std::int32_t height, std::uint32_t bits,
                                      std::uint32_t compression, std::uint32_t pixelsAt,
                                      std::uint32_t compressedSize = 0) {
     std::vector<std::uint8_t> head(54, 0);
-    const auto put = [&](std::size_t at, std::uint32_t value, int bytes) {
-        for (int i = 0; i < bytes; ++i) {
-            head[at + static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(value >> (8 * i));
-        }
-    };
     head[0] = 'B';
     head[1] = 'M';
-    put(10, pixelsAt, 4);
-    put(14, 40, 4);
-    put(18, static_cast<std::uint32_t>(width), 4);
-    put(22, static_cast<std::uint32_t>(height), 4);
-    put(26, 1, 2);
-    put(28, static_cast<std::uint32_t>(bits), 2);
-    put(30, compression, 4);
-    put(34, compressedSize, 4);
+    const std::uint32_t fields[][2] = {
+        {10, pixelsAt},       {14, 40},          {18, static_cast<std::uint32_t>(width)},
+        {26, 1 | bits << 16}, {30, compression}, {22, static_cast<std::uint32_t>(height)},
+        {34, compressedSize}};
+    for (const auto& [at, value] : fields) {
+        for (std::uint32_t byte = 0; byte < 4; ++byte) {
+            head[at + byte] = static_cast<std::uint8_t>(value >> (8 * byte));
+        }
+    }
     return head;
 }
 
 TEST(SliderRule, IsUsableBitmapFile_EverythingInsideTheFileAndAtMost4096) {
     constexpr std::uint64_t kBuiltInSize = 54 + 624 * 32;  // rows of 208 * 3 bytes
-    auto notBitmap = BitmapHead(208, 32, 24, 0, 54);
-    notBitmap[0] = 'P';
-    auto twoPlanes = BitmapHead(208, 32, 24, 0, 54);
-    twoPlanes[26] = 2;
     const auto builtIn = BitmapHead(208, 32, 24, 0, 54);
-    const std::vector<std::uint8_t> cut(builtIn.begin(), builtIn.begin() + 20);
+    std::vector<std::uint8_t> notBitmap{'B', 'A'};
+    notBitmap.insert(notBitmap.end(), builtIn.begin() + 2, builtIn.end());
     const struct {
         const char* name;
         std::vector<std::uint8_t> head;
@@ -134,21 +116,16 @@ TEST(SliderRule, IsUsableBitmapFile_EverythingInsideTheFileAndAtMost4096) {
         bool usable;
     } cases[] = {
         {"built-in", builtIn, kBuiltInSize, true},
-        {"one byte short", BitmapHead(208, 32, 24, 0, 54), kBuiltInSize - 1, false},
+        {"one byte short", builtIn, kBuiltInSize - 1, false},
         {"top-down", BitmapHead(208, -32, 24, 0, 54), kBuiltInSize, true},
-        {"4096 wide", BitmapHead(4096, 1, 32, 0, 54), 54 + 4096 * 4, true},
         {"4097 wide", BitmapHead(4097, 1, 32, 0, 54), 54 + 4097 * 4, false},
-        {"4097 high", BitmapHead(1, -4097, 32, 0, 54), 54 + 4097 * 4, false},
         {"palette", BitmapHead(4, 4, 8, 0, 54 + 1024), 54 + 1024 + 16, true},
         {"pixels over the palette", BitmapHead(4, 4, 8, 0, 54), 54 + 1024 + 16, false},
-        {"pixels past the end", BitmapHead(4, 4, 24, 0, 900), 100, false},
         {"run-length", BitmapHead(4, 4, 8, 1, 54 + 1024, 20), 54 + 1024 + 20, true},
         {"run-length cut", BitmapHead(4, 4, 8, 1, 54 + 1024, 20), 54 + 1024 + 19, false},
-        {"run-length top-down", BitmapHead(4, -4, 8, 1, 54 + 1024, 20), 2000, false},
         {"PNG inside", BitmapHead(4, 4, 0, 5, 54, 20), 2000, false},
         {"not BM", notBitmap, kBuiltInSize, false},
-        {"two planes", twoPlanes, kBuiltInSize, false},
-        {"file ends in the header", cut, 20, false},
+        {"file ends in the header", {builtIn.begin(), builtIn.begin() + 20}, 20, false},
     };
     for (const auto& test : cases) {
         EXPECT_EQ(CSliderRule::IsUsableBitmapFile(test.head, test.fileSize), test.usable)
