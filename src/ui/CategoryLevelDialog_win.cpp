@@ -1,6 +1,7 @@
 #include "ui/CategoryLevelDialog_win.h"
 
 #include <string>
+#include <vector>
 
 #include "ui/ControlTexts.h"
 #include "ui/LevelValue.h"
@@ -18,9 +19,9 @@ bool CCategoryLevelDialog::OnInitDialog() {
         ::LoadImageW(nullptr, IDI_INFORMATION, IMAGE_ICON, ::GetSystemMetrics(SM_CXSMICON),
                      ::GetSystemMetrics(SM_CYSMICON), LR_SHARED));
     m_tips = std::make_unique<CToolTips>(Handle());
-    std::wstring levelNames[kLevelPositions];
-    for (int position = 0; position < kLevelPositions; ++position) {
-        levelNames[position] = m_services.strings.LoadShown(std::wstring(LevelNameIds()[position]));
+    std::vector<std::wstring> levelNames;
+    for (const std::wstring_view id : LevelNameIds()) {
+        levelNames.push_back(m_services.strings.LoadShown(std::wstring(id)));
     }
     size_t row = 0;
     for (const CategoryRow& category : CategoryRows()) {
@@ -28,7 +29,7 @@ bool CCategoryLevelDialog::OnInitDialog() {
         for (const std::wstring& name : levelNames) {
             ::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
         }
-        ::SendMessageW(combo, CB_SETCURSEL, m_positions[row++], 0);
+        ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(m_positions[row++]), 0);
         ::SendDlgItemMessageW(Handle(), category.iconId, STM_SETICON,
                               reinterpret_cast<WPARAM>(m_infoIcon), 0);
         m_tips->Add(Item(category.iconId),

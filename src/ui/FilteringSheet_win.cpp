@@ -24,7 +24,7 @@ thread_local CFilteringSheet* t_opening = nullptr;
 // The sheet whose keys the message hook watches.
 thread_local CFilteringSheet* t_watching = nullptr;
 
-int CALLBACK LastPageCallback(HWND, UINT, LPPROPSHEETPAGEW) {
+UINT CALLBACK LastPageCallback(HWND, UINT, LPPROPSHEETPAGEW) {
     return TRUE;
 }
 
@@ -75,15 +75,16 @@ CFilteringSheet::~CFilteringSheet() {
 }
 
 bool CFilteringSheet::RunModal(const std::wstring& caption, HWND parent) {
-    std::array<std::wstring, kSheetPageCount> titles;
-    for (int page = 0; page < kSheetPageCount; ++page) {
+    constexpr size_t kPages = kSheetPageCount;
+    std::array<std::wstring, kPages> titles;
+    for (size_t page = 0; page < kPages; ++page) {
         titles[page] = m_services.strings.LoadShown(std::wstring(PageTitleIds()[page]));
     }
-    CPropertyPage* const pages[kSheetPageCount] = {&m_spamDetection, &m_linkFilter, &m_approved,
+    CPropertyPage* const pages[kPages] = {&m_spamDetection, &m_linkFilter, &m_approved,
                                                    &m_blocked,       &m_encodings,  &m_advanced};
-    std::array<PROPSHEETPAGEW, kSheetPageCount> descriptions{};
-    for (int page = 0; page < kSheetPageCount; ++page) {
-        const bool last = page == kSheetPageCount - 1;
+    std::array<PROPSHEETPAGEW, kPages> descriptions{};
+    for (size_t page = 0; page < kPages; ++page) {
+        const bool last = page == kPages - 1;
         descriptions[page] = pages[page]->Describe(titles[page], PSP_HASHELP | (last ? PSP_USECALLBACK : 0));
         if (last) {
             descriptions[page].pfnCallback = &LastPageCallback;
@@ -216,7 +217,8 @@ bool CFilteringSheet::OnShortcut(const MSG& message) {
     if (m_sheet == nullptr || (message.hwnd != m_sheet && !::IsChild(m_sheet, message.hwnd))) {
         return false;
     }
-    const bool altDown = ::GetKeyState(VK_MENU) < 0;
+    // The system keys carry Alt in their context bit; the others only in the key state.
+    const bool altDown = (HIWORD(message.lParam) & KF_ALTDOWN) != 0 || ::GetKeyState(VK_MENU) < 0;
     const SheetShortcut shortcut = AltShortcut(message.message, message.wParam, altDown);
     if (shortcut == SheetShortcut::None) {
         return false;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ui/DialogIds.h"
+#include "ui/DialogTexts_win.h"
 
 namespace Orva::Ui {
 
@@ -19,12 +20,13 @@ bool CListPage::OnInitDialog() {
     // The first column takes what the others leave; the others share a third of the width.
     const int other = count > 1 ? (client.right / 3) / (count - 1) : 0;
     for (int column = 0; column < count; ++column) {
-        std::wstring title = m_services.strings.LoadShown(std::wstring(m_columnIds[column]));
+        const auto index = static_cast<size_t>(column);
+        std::wstring title = m_services.strings.LoadShown(std::wstring(m_columnIds[index]));
         LVCOLUMNW description{};
         description.mask = LVCF_TEXT | LVCF_WIDTH;
         description.pszText = title.data();
         description.cx = column == 0 ? client.right - other * (count - 1) : other;
-        ::SendMessageW(list, LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&description));
+        ::SendMessageW(list, LVM_INSERTCOLUMNW, index, reinterpret_cast<LPARAM>(&description));
     }
     return true;
 }

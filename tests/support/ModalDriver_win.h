@@ -132,40 +132,21 @@ inline HWND FindDialogHolding(int controlId) {
     return search.found;
 }
 
-// Keys pressed in order and released in reverse, through the system's input queue, as a
-// keyboard would type them into the focused window.
-inline void PressKeys(std::initializer_list<WORD> keys) {
-    std::vector<INPUT> inputs;
-    for (const WORD key : keys) {
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
-        inputs.push_back(input);
-    }
-    for (auto key = keys.end(); key != keys.begin();) {
-        --key;
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = *key;
-        input.ki.dwFlags = KEYEVENTF_KEYUP;
-        inputs.push_back(input);
-    }
-    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+// A key pressed and released on `window` (the focused control), queued as the keyboard queues
+// it, so that the modal loop's hooks and dialog manager see it; `alt` marks it typed with Alt.
+inline void PostKey(HWND window, WORD key, bool alt = false) {
+    const UINT scan = ::MapVirtualKeyW(key, MAPVK_VK_TO_VSC);
+    const LPARAM down = 1 | static_cast<LPARAM>(scan << 16) | (alt ? (1 << 29) : 0);
+    const LPARAM up = down | (1 << 30) | static_cast<LPARAM>(1u << 31);
+    ::PostMessageW(window, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, key, down);
+    ::PostMessageW(window, alt ? WM_SYSKEYUP : WM_KEYUP, key, up);
 }
 
-// Characters typed into the focused window.
-inline void TypeText(const std::wstring& text) {
-    std::vector<INPUT> inputs;
+// Characters typed into `window`.
+inline void PostText(HWND window, const std::wstring& text) {
     for (const wchar_t character : text) {
-        for (const DWORD flags : {DWORD{KEYEVENTF_UNICODE}, DWORD{KEYEVENTF_UNICODE | KEYEVENTF_KEYUP}}) {
-            INPUT input{};
-            input.type = INPUT_KEYBOARD;
-            input.ki.wScan = character;
-            input.ki.dwFlags = flags;
-            inputs.push_back(input);
-        }
+        ::PostMessageW(window, WM_CHAR, character, 1);
     }
-    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
 // A click on a button or check box, handled when the modal loop dispatches it.

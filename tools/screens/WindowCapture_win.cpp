@@ -32,9 +32,10 @@ bool CaptureWindow(HWND window, const std::wstring& bmpFile) {
     info.biPlanes = 1;
     info.biBitCount = 24;
     info.biCompression = BI_RGB;
-    const DWORD stride = ((width * 3) + 3) & ~3u;
-    std::vector<BYTE> pixels(static_cast<size_t>(stride) * height);
-    const int lines = ::GetDIBits(screen, picture.get(), 0, height, pixels.data(),
+    const auto rows = static_cast<UINT>(height);
+    const DWORD stride = ((static_cast<DWORD>(width) * 3) + 3) & ~3u;
+    std::vector<BYTE> pixels(static_cast<size_t>(stride) * rows);
+    const int lines = ::GetDIBits(screen, picture.get(), 0, rows, pixels.data(),
                                   reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS);
     ::ReleaseDC(nullptr, screen);
     if (lines != height) {

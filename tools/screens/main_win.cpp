@@ -151,9 +151,9 @@ private:
         std::vector<CModalDriver::NamedStep> steps = {
             {"sheet", [] { return SheetOfThisThread() != nullptr; }},
             {"page", [page] {
-                 const HWND sheet = SheetOfThisThread();
-                 PropSheet_SetCurSel(sheet, nullptr, page);
-                 return TabCtrl_GetCurSel(PropSheet_GetTabControl(sheet)) == page;
+                 const HWND shown = SheetOfThisThread();
+                 PropSheet_SetCurSel(shown, nullptr, page);
+                 return TabCtrl_GetCurSel(PropSheet_GetTabControl(shown)) == page;
              }},
             Settle(),
         };
@@ -170,7 +170,7 @@ private:
         steps.push_back({"close", [] {
                              const bool dialogOpen =
                                  Orva::Testing::FindDialogHolding(IDC_COMBO_SEXUAL) != nullptr;
-                             Orva::Testing::PressKeys({VK_ESCAPE});
+                             Orva::Testing::PostKey(::GetFocus(), VK_ESCAPE);
                              return !dialogOpen;
                          }});
         CModalDriver driver(std::move(steps));

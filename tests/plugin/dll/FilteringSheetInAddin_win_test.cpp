@@ -1,3 +1,5 @@
+#include <windows.h>
+
 #include <commctrl.h>
 #include <prsht.h>
 
@@ -61,11 +63,13 @@ protected:
         init->object.Fire(1, {});  // ready
         return api->object.entries.size() == 5;
     }
-    // Clicks Settings and runs `steps` inside the sheet's modal loop; the click returns when the
-    // sheet has closed.
+    // Clicks Settings and runs `steps` inside the sheet's modal loop. The click reaches the
+    // controller as a posted message: the sheet opens while this thread pumps.
     std::string RunSheet(std::vector<CModalDriver::NamedStep> steps) {
         CModalDriver driver(std::move(steps));
         api->object.entries[0]->Fire(1, {});
+        Testing::PumpMessagesUntil([&] { return driver.Finished() || !driver.Failure().empty(); },
+                                   60000);
         return driver.Finished() ? std::string() : "stopped at: " + driver.Failure();
     }
     std::wstring Setting(const wchar_t* section, const wchar_t* key) const {
@@ -110,7 +114,7 @@ TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTh
         OnControl(sheet, "slider to High", IDC_LEVEL_SLIDER,
                   [](HWND slider) {
                       ::SetFocus(slider);
-                      Testing::PressKeys({VK_HOME});
+                      Testing::PostKey(slider, VK_HOME);
                   }),
         OnControl(sheet, "cloud box", IDC_CHECK_ENABLE_IN_THE_CLOUD, &Testing::Click),
         OnControl(sheet, "custom level", IDC_BUTTON_CUSTOM_LEVEL, &Testing::Click),
@@ -140,7 +144,7 @@ TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTh
              }
              ::SetFocus(edit);
              ::SendMessageW(edit, EM_SETSEL, 0, -1);
-             Testing::TypeText(L"4x5");
+             Testing::PostText(edit, L"4x5");
              return true;
          }},
         {"help", [this] {
@@ -153,7 +157,7 @@ TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTh
              if (std::wstring(days) != L"45") {
                  return false;
              }
-             Testing::PressKeys({VK_MENU, 'O'});
+             Testing::PostKey(::GetFocus(), 'O', true);
              return true;
          }},
     });
@@ -188,7 +192,7 @@ TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
         OnControl(sheet, "slider moved", IDC_LEVEL_SLIDER,
                   [&suite](HWND slider) {
                       ::SetFocus(slider);
-                      Testing::PressKeys({VK_END});
+                      Testing::PostKey(slider, VK_END);
                       suite.reset(::CreateWindowExW(0, L"STATIC", kSuiteWindowTitle.data(),
                                                     WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
                                                     nullptr, nullptr));
@@ -200,7 +204,7 @@ TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
                  return false;
              }
              suite.reset();
-             Testing::PressKeys({VK_MENU, 'C'});
+             Testing::PostKey(::GetFocus(), 'C', true);
              return true;
          }},
     });
