@@ -31,7 +31,8 @@ bool CAdvancedPage::OnInitDialog() {
                               reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
     }
     m_tips = std::make_unique<CToolTips>(Handle());
-    m_tips->Add(Item(IDC_BUTTON_DELETE_NOW), m_services.strings.LoadShown(L"IDS_TOOLTIP_DELETENOW"));
+    m_tips->Add(Item(IDC_BUTTON_DELETE_NOW),
+                m_services.strings.LoadShown(L"IDS_TOOLTIP_DELETENOW"));
     m_filling = false;
     return true;
 }

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "ui/ControlTexts.h"
-#include "ui/LevelValue.h"
 #include "ui/DialogIds.h"
+#include "ui/LevelValue.h"
 
 namespace Orva::Ui {
 
@@ -15,9 +15,9 @@ bool CCategoryLevelDialog::OnInitDialog() {
         ::SetWindowTextW(Handle(), caption.c_str());
     }
     ApplyControlTexts(Handle(), CategoryLevelTexts(), m_services.strings);
-    m_infoIcon = static_cast<HICON>(
-        ::LoadImageW(nullptr, IDI_INFORMATION, IMAGE_ICON, ::GetSystemMetrics(SM_CXSMICON),
-                     ::GetSystemMetrics(SM_CYSMICON), LR_SHARED));
+    m_infoIcon = static_cast<HICON>(::LoadImageW(nullptr, IDI_INFORMATION, IMAGE_ICON,
+                                                 ::GetSystemMetrics(SM_CXSMICON),
+                                                 ::GetSystemMetrics(SM_CYSMICON), LR_SHARED));
     m_tips = std::make_unique<CToolTips>(Handle());
     std::vector<std::wstring> levelNames;
     for (const std::wstring_view id : LevelNameIds()) {

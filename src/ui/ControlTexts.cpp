@@ -37,12 +37,9 @@ constexpr ControlText kCategoryLevel[] = {
 };
 
 constexpr ControlText kWorryFreeLevel[] = {
-    {IDC_WEXOR_TITLE, L"IDS_LINK_FILTER_TITLE"},
-    {IDC_WEXOR_NOTE, L"IDS_LINK_FILTER_NOTE"},
-    {IDC_CHECK_ENABLE_WEXOR, L"IDS_ENABLE_LINK_FILTER"},
-    {IDC_WEXOR_LABEL_HIGH, L"IDS_LEVEL_HIGH"},
-    {IDC_WEXOR_LABEL_MEDIUM, L"IDS_LEVEL_MEDIUM"},
-    {IDC_WEXOR_LABEL_LOW, L"IDS_LEVEL_LOW"},
+    {IDC_WEXOR_TITLE, L"IDS_LINK_FILTER_TITLE"},         {IDC_WEXOR_NOTE, L"IDS_LINK_FILTER_NOTE"},
+    {IDC_CHECK_ENABLE_WEXOR, L"IDS_ENABLE_LINK_FILTER"}, {IDC_WEXOR_LABEL_HIGH, L"IDS_LEVEL_HIGH"},
+    {IDC_WEXOR_LABEL_MEDIUM, L"IDS_LEVEL_MEDIUM"},       {IDC_WEXOR_LABEL_LOW, L"IDS_LEVEL_LOW"},
 };
 
 constexpr ControlText kAdvancedPage[] = {
@@ -79,18 +76,37 @@ constexpr std::wstring_view kPageTitles[] = {
     L"IDS_PAGE_BLOCKED",   L"IDS_PAGE_ENCODINGS",   L"IDS_PAGE_ADVANCED",
 };
 
-
 }  // namespace
 
-std::span<const ControlText> DefaultLevelTexts() { return kDefaultLevel; }
-std::span<const ControlText> CustomLevelTexts() { return kCustomLevel; }
-std::span<const ControlText> CategoryLevelTexts() { return kCategoryLevel; }
-std::span<const ControlText> WorryFreeLevelTexts() { return kWorryFreeLevel; }
-std::span<const ControlText> AdvancedPageTexts() { return kAdvancedPage; }
-std::span<const ControlText> ApprovedPageTexts() { return kApprovedPage; }
-std::span<const ControlText> BlockedPageTexts() { return kBlockedPage; }
-std::span<const ControlText> EncodingsPageTexts() { return kEncodingsPage; }
-std::span<const std::wstring_view> LevelNameIds() { return kLevelNames; }
-std::span<const std::wstring_view> PageTitleIds() { return kPageTitles; }
+std::span<const ControlText> DefaultLevelTexts() {
+    return kDefaultLevel;
+}
+std::span<const ControlText> CustomLevelTexts() {
+    return kCustomLevel;
+}
+std::span<const ControlText> CategoryLevelTexts() {
+    return kCategoryLevel;
+}
+std::span<const ControlText> WorryFreeLevelTexts() {
+    return kWorryFreeLevel;
+}
+std::span<const ControlText> AdvancedPageTexts() {
+    return kAdvancedPage;
+}
+std::span<const ControlText> ApprovedPageTexts() {
+    return kApprovedPage;
+}
+std::span<const ControlText> BlockedPageTexts() {
+    return kBlockedPage;
+}
+std::span<const ControlText> EncodingsPageTexts() {
+    return kEncodingsPage;
+}
+std::span<const std::wstring_view> LevelNameIds() {
+    return kLevelNames;
+}
+std::span<const std::wstring_view> PageTitleIds() {
+    return kPageTitles;
+}
 
 }  // namespace Orva::Ui

@@ -60,8 +60,8 @@ CToolTips::CToolTips(HWND owner)
     : m_owner(owner),
       m_tips(::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                                WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT,
-                               CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr,
-                               nullptr, nullptr)) {
+                               CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, nullptr,
+                               nullptr)) {
     if (m_tips) {
         // Long tooltips wrap instead of running across the screen.
         ::SendMessageW(m_tips.get(), TTM_SETMAXTIPWIDTH, 0, 300);

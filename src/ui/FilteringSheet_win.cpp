@@ -81,11 +81,12 @@ bool CFilteringSheet::RunModal(const std::wstring& caption, HWND parent) {
         titles[page] = m_services.strings.LoadShown(std::wstring(PageTitleIds()[page]));
     }
     CPropertyPage* const pages[kPages] = {&m_spamDetection, &m_linkFilter, &m_approved,
-                                                   &m_blocked,       &m_encodings,  &m_advanced};
+                                          &m_blocked,       &m_encodings,  &m_advanced};
     std::array<PROPSHEETPAGEW, kPages> descriptions{};
     for (size_t page = 0; page < kPages; ++page) {
         const bool last = page == kPages - 1;
-        descriptions[page] = pages[page]->Describe(titles[page], PSP_HASHELP | (last ? PSP_USECALLBACK : 0));
+        descriptions[page] =
+            pages[page]->Describe(titles[page], PSP_HASHELP | (last ? PSP_USECALLBACK : 0));
         if (last) {
             descriptions[page].pfnCallback = &LastPageCallback;
         }
@@ -162,7 +163,7 @@ LRESULT CALLBACK CFilteringSheet::SheetProcedure(HWND sheet, UINT message, WPARA
     LRESULT result = 0;
     try {
         if (reinterpret_cast<CFilteringSheet*>(self)->OnSheetMessage(message, wParam, lParam,
-                                                                      result)) {
+                                                                     result)) {
             return result;
         }
     } catch (...) {
@@ -174,8 +175,7 @@ LRESULT CALLBACK CFilteringSheet::SheetProcedure(HWND sheet, UINT message, WPARA
     return ::DefSubclassProc(sheet, message, wParam, lParam);
 }
 
-bool CFilteringSheet::OnSheetMessage(UINT message, WPARAM wParam, LPARAM lParam,
-                                     LRESULT& result) {
+bool CFilteringSheet::OnSheetMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
         case WM_COMMAND: {
             const int id = LOWORD(wParam);

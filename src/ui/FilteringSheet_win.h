@@ -39,8 +39,8 @@ public:
 
 private:
     static int CALLBACK SheetCallback(HWND sheet, UINT message, LPARAM lParam);
-    static LRESULT CALLBACK SheetProcedure(HWND sheet, UINT message, WPARAM wParam,
-                                           LPARAM lParam, UINT_PTR id, DWORD_PTR self);
+    static LRESULT CALLBACK SheetProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam,
+                                           UINT_PTR id, DWORD_PTR self);
     static LRESULT CALLBACK KeyHook(int code, WPARAM wParam, LPARAM lParam);
 
     void OnInitialized(HWND sheet);

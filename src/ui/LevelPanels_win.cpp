@@ -15,8 +15,7 @@ namespace {
 void ExpandHeadline(HWND panel, int id, PageServices& services) {
     wchar_t text[512] = {};
     ::GetDlgItemTextW(panel, id, text, static_cast<int>(std::size(text)));
-    ::SetDlgItemTextW(panel, id,
-                      ExpandCorpName(text, services.settings, services.strings).c_str());
+    ::SetDlgItemTextW(panel, id, ExpandCorpName(text, services.settings, services.strings).c_str());
 }
 
 ZelCommon::Platform::unique_hfont HeadlineFontFor(HWND panel, PageServices& services,
@@ -42,8 +41,8 @@ bool CDefaultLevelPanel::OnInitDialog() {
     ExpandHeadline(Handle(), IDC_DEFAULT_NOTE, m_services);
     m_slider.Attach(Handle(), {IDC_LEVEL_SLIDER, IDC_LABEL_HIGH, IDC_LABEL_MEDIUM, IDC_LABEL_LOW},
                     m_services);
-    m_headlineFont =
-        HeadlineFontFor(Handle(), m_services, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
+    m_headlineFont = HeadlineFontFor(Handle(), m_services, L"IDS_ORVA_SYSTEM_FONT",
+                                     L"IDS_INTERMEDIATE_FONT_SIZE");
     for (const int headline : {IDC_DEFAULT_TITLE, IDC_DEFAULT_NOTE}) {
         ::SendDlgItemMessageW(Handle(), headline, WM_SETFONT,
                               reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);

@@ -20,7 +20,8 @@ void CLevelSlider::Attach(HWND panel, ControlIds ids, PageServices& services) {
         m_slider.SetBitmap(std::move(bitmap));
     }
     m_tips = std::make_unique<CToolTips>(panel);
-    m_tips->Add(::GetDlgItem(panel, ids.high), services.strings.LoadShown(L"IDS_TOOLTIP_LEVELHIGH"));
+    m_tips->Add(::GetDlgItem(panel, ids.high),
+                services.strings.LoadShown(L"IDS_TOOLTIP_LEVELHIGH"));
     m_tips->Add(::GetDlgItem(panel, ids.medium),
                 services.strings.LoadShown(L"IDS_TOOLTIP_LEVELMEDIUM"));
     m_tips->Add(::GetDlgItem(panel, ids.low), services.strings.LoadShown(L"IDS_TOOLTIP_LEVELLOW"));

@@ -10,10 +10,10 @@ namespace Orva::Ui {
 bool CWorryFreeLevel::OnInitDialog() {
     UseWhiteBackground();
     ApplyControlTexts(Handle(), WorryFreeLevelTexts(), m_services.strings);
-    m_slider.Attach(Handle(),
-                    {IDC_WEXOR_SLIDER, IDC_WEXOR_LABEL_HIGH, IDC_WEXOR_LABEL_MEDIUM,
-                     IDC_WEXOR_LABEL_LOW},
-                    m_services);
+    m_slider.Attach(
+        Handle(),
+        {IDC_WEXOR_SLIDER, IDC_WEXOR_LABEL_HIGH, IDC_WEXOR_LABEL_MEDIUM, IDC_WEXOR_LABEL_LOW},
+        m_services);
     const FontSpec font =
         HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
     m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);

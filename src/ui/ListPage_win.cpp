@@ -6,12 +6,18 @@
 
 #include "ui/DialogIds.h"
 #include "ui/DialogTexts_win.h"
+#include "ui/Headline.h"
 
 namespace Orva::Ui {
 
 bool CListPage::OnInitDialog() {
     UseWhiteBackground();
     ApplyControlTexts(Handle(), m_texts, m_services.strings);
+    const FontSpec font =
+        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
+    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
+    ::SendDlgItemMessageW(Handle(), IDC_LIST_TITLE, WM_SETFONT,
+                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
     const HWND list = Item(IDC_LIST_VIEW);
     m_list.SubclassWindow(list);
     RECT client{};

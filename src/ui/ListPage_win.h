@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 
+#include "common_src/platform/UniqueAny_win.h"
 #include "ui/ControlTexts.h"
 #include "ui/DrawListCtrl_win.h"
 #include "ui/PageServices.h"
@@ -27,6 +28,7 @@ private:
     std::span<const std::wstring_view> m_columnIds;
     PageServices& m_services;
     CDrawListCtrl m_list;
+    ZelCommon::Platform::unique_hfont m_headlineFont;
 };
 
 }  // namespace Orva::Ui

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <windows.h>
+
 #include <prsht.h>
 
 #include <string>
@@ -26,8 +27,7 @@ protected:
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    static INT_PTR CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam,
-                                          LPARAM lParam);
+    static INT_PTR CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 };
 
 }  // namespace Orva::Ui

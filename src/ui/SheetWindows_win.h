@@ -8,7 +8,8 @@ namespace Orva::Ui {
 // The Win32 sheet; the help button opens the active page's topic through `openHelp`.
 class CSheetWindows final : public ISheetWindows {
 public:
-    explicit CSheetWindows(CFilteringSheet::HelpOpener openHelp) : m_openHelp(std::move(openHelp)) {}
+    explicit CSheetWindows(CFilteringSheet::HelpOpener openHelp)
+        : m_openHelp(std::move(openHelp)) {}
 
     bool RunFilteringSheet(CFilteringSheetModel& model, PageServices& services,
                            const std::wstring& caption,

@@ -21,7 +21,8 @@ CSpamDetectionPage::CSpamDetectionPage(CSpamDetectionPageModel& model, PageServi
       m_model(model),
       m_services(services),
       m_default(model, services, [this] { Customize(); }),
-      m_custom(model, services, [this] { Customize(); }, [this] { BackToDefault(); }) {}
+      m_custom(
+          model, services, [this] { Customize(); }, [this] { BackToDefault(); }) {}
 
 bool CSpamDetectionPage::OnInitDialog() {
     UseWhiteBackground();

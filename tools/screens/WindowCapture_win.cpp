@@ -49,7 +49,8 @@ bool CaptureWindow(HWND window, const std::wstring& bmpFile) {
     std::ofstream out(std::filesystem::path(bmpFile), std::ios::binary);
     out.write(reinterpret_cast<const char*>(&file), sizeof(file));
     out.write(reinterpret_cast<const char*>(&info), sizeof(info));
-    out.write(reinterpret_cast<const char*>(pixels.data()), static_cast<std::streamsize>(pixels.size()));
+    out.write(reinterpret_cast<const char*>(pixels.data()),
+              static_cast<std::streamsize>(pixels.size()));
     return static_cast<bool>(out);
 }
 

@@ -3,6 +3,7 @@
 //   orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE
 // INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini; LOCALE names the files.
 #include <windows.h>
+
 #include <commctrl.h>
 #include <prsht.h>
 
@@ -29,8 +30,8 @@ namespace {
 
 using Orva::Testing::CModalDriver;
 
-constexpr const wchar_t* kPageNames[] = {L"spam-detection",   L"link-filter",
-                                         L"approved-senders", L"blocked-senders",
+constexpr const wchar_t* kPageNames[] = {L"spam-detection",    L"link-filter",
+                                         L"approved-senders",  L"blocked-senders",
                                          L"blocked-encodings", L"advanced"};
 
 HWND SheetOfThisThread() {
@@ -80,27 +81,26 @@ public:
         for (int page = 0; page < Orva::Ui::kSheetPageCount; ++page) {
             failures += Shoot(page, {}) ? 0 : 1;
         }
-        failures += Shoot(0, {{"custom level",
-                               [] {
-                                   const HWND sheet = SheetOfThisThread();
-                                   const HWND button =
-                                       sheet ? Orva::Testing::FindDescendant(
-                                                   sheet, IDC_BUTTON_CUSTOM_LEVEL)
-                                             : nullptr;
-                                   if (button != nullptr) {
-                                       Orva::Testing::Click(button);
-                                   }
-                                   return button != nullptr;
-                               }},
-                              Settle(),
-                              {"category dialog", [this] {
-                                   const HWND dialog =
-                                       Orva::Testing::FindDialogHolding(IDC_COMBO_SEXUAL);
-                                   return dialog != nullptr &&
-                                          Save(dialog, L"category-level");
-                               }}})
-                        ? 0
-                        : 1;
+        failures +=
+            Shoot(0, {{"custom level",
+                       [] {
+                           const HWND sheet = SheetOfThisThread();
+                           const HWND button =
+                               sheet ? Orva::Testing::FindDescendant(sheet, IDC_BUTTON_CUSTOM_LEVEL)
+                                     : nullptr;
+                           if (button != nullptr) {
+                               Orva::Testing::Click(button);
+                           }
+                           return button != nullptr;
+                       }},
+                      Settle(),
+                      {"category dialog",
+                       [this] {
+                           const HWND dialog = Orva::Testing::FindDialogHolding(IDC_COMBO_SEXUAL);
+                           return dialog != nullptr && Save(dialog, L"category-level");
+                       }}})
+                ? 0
+                : 1;
         return failures;
     }
 
@@ -131,7 +131,7 @@ private:
     std::unique_ptr<Services> MakeServices(const std::wstring& installFolder) {
         const auto system = Orva::Settings::SystemStringLoaderServices();
         const Orva::Settings::StringLoaderServices loaderServices{
-            system.profile, system.registry, m_shotLocale,   system.process,
+            system.profile, system.registry,    m_shotLocale, system.process,
             system.log,     system.isWindows64, installFolder};
         return std::make_unique<Services>(Files(), loaderServices);
     }
@@ -150,7 +150,8 @@ private:
         Orva::Ui::CFilteringSheet sheet(model, m_services->page, [](std::wstring_view) {});
         std::vector<CModalDriver::NamedStep> steps = {
             {"sheet", [] { return SheetOfThisThread() != nullptr; }},
-            {"page", [page] {
+            {"page",
+             [page] {
                  const HWND shown = SheetOfThisThread();
                  PropSheet_SetCurSel(shown, nullptr, page);
                  return TabCtrl_GetCurSel(PropSheet_GetTabControl(shown)) == page;

@@ -34,9 +34,9 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
                Orva::Settings::DefaultInstallFolder(), m_log),
       m_accountCheck({ZelCommon::Storage::SystemRegistryApi(), SystemProcessContext(), m_log}),
       m_pending(m_log),
-      m_addinDialogs({settings, paths, m_strings, strings, SystemShellOpen(), SystemWindowMessaging(),
-                      m_log},
-                     m_pending),
+      m_addinDialogs(
+          {settings, paths, m_strings, strings, SystemShellOpen(), SystemWindowMessaging(), m_log},
+          m_pending),
       m_dialogs(strings, SystemShellOpen(), m_addinDialogs, m_log),
       m_mailStore(Orva::MailStore::CreateSystemMailStore()),
       m_spamFolderLoader(Orva::Settings::SystemStringLoaderServices()),

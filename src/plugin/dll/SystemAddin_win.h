@@ -12,7 +12,6 @@
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/agent/AgentLink.h"
 #include "plugin/controller/CommandDialogs.h"
-#include "settings/localisation/LoaderStrings.h"
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailClientVersion.h"
 #include "plugin/controller/MailStoreSpamFolder.h"
@@ -25,6 +24,7 @@
 #include "plugin/host/HostObjects.h"
 #include "settings/SettingsPaths.h"
 #include "settings/SettingsStore.h"
+#include "settings/localisation/LoaderStrings.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 #include "settings/log/DebugLog.h"
 

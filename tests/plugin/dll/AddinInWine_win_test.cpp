@@ -73,7 +73,6 @@ TEST_F(AddinInWine, CopyDataFromTheAgentsProcess_AWholeFlaggedRecordAsksToDelete
     ShutDownController();
 }
 
-
 // The host's events, fired through the host's own objects, drive the loaded add-in from the
 // ready event to the shut-down, with the real agent at the other end.
 TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {

@@ -147,11 +147,13 @@ TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTh
              Testing::PostText(edit, L"4x5");
              return true;
          }},
-        {"help", [this] {
+        {"help",
+         [this] {
              Testing::Click(::GetDlgItem(sheet, IDC_SHEET_HELP));
              return true;
          }},
-        {"Alt+O", [this] {
+        {"Alt+O",
+         [this] {
              wchar_t days[8] = {};
              ::GetWindowTextW(FindDescendant(sheet, IDC_EDIT_PURGE_DAYS), days, 8);
              if (std::wstring(days) != L"45") {
@@ -194,12 +196,13 @@ TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
                       ::SetFocus(slider);
                       Testing::PostKey(slider, VK_END);
                       suite.reset(::CreateWindowExW(0, L"STATIC", kSuiteWindowTitle.data(),
-                                                    WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
-                                                    nullptr, nullptr));
+                                                    WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr,
+                                                    nullptr));
                       Testing::Click(::GetDlgItem(::GetAncestor(slider, GA_ROOT), IDOK));
                   }),
         {"OK handled", [ticks = 0]() mutable { return ++ticks > 5; }},
-        {"still open while the suite is busy", [this, &suite] {
+        {"still open while the suite is busy",
+         [this, &suite] {
              if (FilteringSheet() != sheet) {
                  return false;
              }
