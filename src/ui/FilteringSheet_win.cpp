@@ -107,6 +107,11 @@ bool CFilteringSheet::RunModal(const std::wstring& caption, HWND parent) {
         ::SetWindowsHookExW(WH_GETMESSAGE, &KeyHook, nullptr, ::GetCurrentThreadId()));
     CFilteringSheet* const outer = std::exchange(t_watching, this);
     const INT_PTR result = ::PropertySheetW(&header);
+    if (result < 0) {
+        m_services.log.LogText(
+            L"xxx CFilteringSheet::DoModal() the sheet cannot be shown, error %u",
+            ::GetLastError());
+    }
     t_watching = outer;
     t_opening = nullptr;
     m_sheet = nullptr;

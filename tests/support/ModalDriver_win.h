@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <prsht.h>
+
 #include <functional>
 #include <string>
 #include <utility>
@@ -130,6 +132,22 @@ inline HWND FindDialogHolding(int controlId) {
         },
         reinterpret_cast<LPARAM>(&search));
     return search.found;
+}
+
+// The visible property sheet of this thread: the window with a sheet's tab strip inside.
+inline HWND FindPropertySheet() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM data) -> BOOL {
+            if (::IsWindowVisible(window) && ::SendMessageW(window, PSM_GETTABCONTROL, 0, 0) != 0) {
+                *reinterpret_cast<HWND*>(data) = window;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
 }
 
 // A key pressed and released on `window` (the focused control), queued as the keyboard queues

@@ -34,21 +34,6 @@ constexpr const wchar_t* kPageNames[] = {L"spam-detection",    L"link-filter",
                                          L"approved-senders",  L"blocked-senders",
                                          L"blocked-encodings", L"advanced"};
 
-HWND SheetOfThisThread() {
-    HWND found = nullptr;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM data) -> BOOL {
-            if (::IsWindowVisible(window) && PropSheet_GetTabControl(window) != nullptr) {
-                *reinterpret_cast<HWND*>(data) = window;
-                return FALSE;
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
-}
-
 // The locale the screenshots are taken in, whatever Windows runs in: the string loader chooses
 // its table by it as it would by the system's.
 class ShotLocale final : public ZelCommon::Platform::ILocale {
@@ -84,7 +69,7 @@ public:
         failures +=
             Shoot(0, {{"custom level",
                        [] {
-                           const HWND sheet = SheetOfThisThread();
+                           const HWND sheet = Orva::Testing::FindPropertySheet();
                            const HWND button =
                                sheet ? Orva::Testing::FindDescendant(sheet, IDC_BUTTON_CUSTOM_LEVEL)
                                      : nullptr;
@@ -149,10 +134,10 @@ private:
         model.SetUp();
         Orva::Ui::CFilteringSheet sheet(model, m_services->page, [](std::wstring_view) {});
         std::vector<CModalDriver::NamedStep> steps = {
-            {"sheet", [] { return SheetOfThisThread() != nullptr; }},
+            {"sheet", [] { return Orva::Testing::FindPropertySheet() != nullptr; }},
             {"page",
              [page] {
-                 const HWND shown = SheetOfThisThread();
+                 const HWND shown = Orva::Testing::FindPropertySheet();
                  PropSheet_SetCurSel(shown, nullptr, page);
                  return TabCtrl_GetCurSel(PropSheet_GetTabControl(shown)) == page;
              }},
@@ -160,7 +145,7 @@ private:
         };
         if (more.empty()) {
             steps.push_back({"save", [this, page] {
-                                 return Save(SheetOfThisThread(),
+                                 return Save(Orva::Testing::FindPropertySheet(),
                                              std::wstring(L"filtering-sheet-") + kPageNames[page]);
                              }});
         }

@@ -13,22 +13,6 @@ namespace {
 using Testing::CModalDriver;
 using Testing::FindDescendant;
 
-// The sheet of this thread: the one window with the sheet's tab strip inside.
-HWND FilteringSheet() {
-    HWND found = nullptr;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM data) -> BOOL {
-            if (::IsWindowVisible(window) && PropSheet_GetTabControl(window) != nullptr) {
-                *reinterpret_cast<HWND*>(data) = window;
-                return FALSE;
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
-}
-
 // The loaded add-in with the host's objects and the simulated agent: the Settings entry of
 // the ribbon opens the sheet, and a driver acts inside its modal loop as the user.
 class FilteringSheetInAddin : public AddinInWine {
@@ -89,7 +73,7 @@ protected:
 CModalDriver::NamedStep OnControl(HWND& sheet, const char* name, int id,
                                   std::function<void(HWND)> act) {
     return {name, [&sheet, id, act] {
-                sheet = FilteringSheet();
+                sheet = Testing::FindPropertySheet();
                 const HWND control = sheet ? FindDescendant(sheet, id) : nullptr;
                 if (control == nullptr) {
                     return false;
@@ -165,7 +149,7 @@ TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTh
     });
 
     EXPECT_EQ(stopped, "");
-    EXPECT_EQ(FilteringSheet(), nullptr);
+    EXPECT_EQ(Testing::FindPropertySheet(), nullptr);
     EXPECT_EQ(Setting(L"General", L"GlobalLevel"), L"0");
     EXPECT_EQ(Setting(L"General", L"ProtectLevel"), L"3");
     EXPECT_EQ(Setting(L"General", L"SexualLevel"), L"3");
@@ -203,7 +187,7 @@ TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
         {"OK handled", [ticks = 0]() mutable { return ++ticks > 5; }},
         {"still open while the suite is busy",
          [this, &suite] {
-             if (FilteringSheet() != sheet) {
+             if (Testing::FindPropertySheet() != sheet) {
                  return false;
              }
              suite.reset();
@@ -213,7 +197,7 @@ TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
     });
 
     EXPECT_EQ(stopped, "");
-    EXPECT_EQ(FilteringSheet(), nullptr);
+    EXPECT_EQ(Testing::FindPropertySheet(), nullptr);
     EXPECT_EQ(Setting(L"General", L"ProtectLevel"), L"<none>");
     EXPECT_EQ(Setting(L"Wexor", L"EnableWexor"), L"<none>");
     EXPECT_EQ(AgentRecord().find("posted 103"), std::string::npos) << AgentRecord();
