@@ -1,5 +1,6 @@
 #include "ui/ControlTexts.h"
 
+#include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
 
 namespace Orva::Ui {
@@ -68,6 +69,11 @@ constexpr ControlText kEncodingsPage[] = {
     {IDC_LIST_NOTE, L"IDS_ENCODINGS_NOTE"},
 };
 
+constexpr ControlText kConfirmation[] = {
+    {IDC_CHECK_DONT_SHOW_AGAIN, L"IDS_DONT_SHOW_AGAIN"},
+    {1 /* IDOK */, L"IDS_OK"},
+};
+
 constexpr std::wstring_view kLevelNames[] = {L"IDS_LEVEL_HIGH", L"IDS_LEVEL_MEDIUM",
                                              L"IDS_LEVEL_LOW"};
 
@@ -101,6 +107,9 @@ std::span<const ControlText> BlockedPageTexts() {
 }
 std::span<const ControlText> EncodingsPageTexts() {
     return kEncodingsPage;
+}
+std::span<const ControlText> ConfirmationTexts() {
+    return kConfirmation;
 }
 std::span<const std::wstring_view> LevelNameIds() {
     return kLevelNames;

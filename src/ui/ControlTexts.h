@@ -20,6 +20,7 @@ std::span<const ControlText> AdvancedPageTexts();
 std::span<const ControlText> ApprovedPageTexts();
 std::span<const ControlText> BlockedPageTexts();
 std::span<const ControlText> EncodingsPageTexts();
+std::span<const ControlText> ConfirmationTexts();
 
 // The three entries of every category's combo box, highest level first.
 std::span<const std::wstring_view> LevelNameIds();

@@ -23,6 +23,8 @@
 #include "settings/log/DebugLog.h"
 #include "support/ModalDriver_win.h"
 #include "tools/screens/WindowCapture_win.h"
+#include "ui/ConfirmationDialog_win.h"
+#include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
 #include "ui/FilteringSheet_win.h"
 
@@ -86,6 +88,7 @@ public:
                        }}})
                 ? 0
                 : 1;
+        failures += ShootConfirmation() ? 0 : 1;
         return failures;
     }
 
@@ -162,6 +165,27 @@ private:
         CModalDriver driver(std::move(steps));
         const std::wstring caption = m_services->strings.LoadShown(L"IDS_STRING_FILTERING_SHEET");
         sheet.RunModal(caption, nullptr);
+        return driver.Finished();
+    }
+
+    // The notice a user of an unsupported default account sees.
+    bool ShootConfirmation() {
+        auto& strings = m_services->strings;
+        Orva::Ui::CConfirmationDlg notice(strings.LoadShown(L"IDS_CAPTION_UNSUPPORTED"),
+                                          strings.LoadShown(L"IDS_MSG_UNSUPPORTED"), strings);
+        CModalDriver driver(
+            {{"notice",
+              [] {
+                  return Orva::Testing::FindDialogHolding(IDC_CHECK_DONT_SHOW_AGAIN) != nullptr;
+              }},
+             Settle(),
+             {"save", [this] {
+                  const HWND dialog = Orva::Testing::FindDialogHolding(IDC_CHECK_DONT_SHOW_AGAIN);
+                  Save(dialog, L"unsupported-server-notice");
+                  Orva::Testing::Click(::GetDlgItem(dialog, IDOK));
+                  return true;
+              }}});
+        notice.RunModal(nullptr);
         return driver.Finished();
     }
 

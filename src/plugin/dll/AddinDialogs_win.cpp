@@ -1,6 +1,7 @@
 #include "plugin/dll/AddinDialogs_win.h"
 
 #include "settings/localisation/OnlineHelpTopic.h"
+#include "ui/ConfirmationDialog_win.h"
 #include "ui/FilteringSheetOpener.h"
 
 namespace Orva::Plugin {
@@ -19,6 +20,14 @@ CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
 
 void CAddinDialogs::OpenFilteringSheet() {
     Ui::OpenFilteringSheet(m_services, m_sheetPaths, m_windows, m_mailClient);
+}
+
+bool CAddinDialogs::ShowUnsupportedServerNotice() {
+    Ui::CConfirmationDlg notice(m_services.strings.LoadShown(L"IDS_CAPTION_UNSUPPORTED"),
+                                m_services.strings.LoadShown(L"IDS_MSG_UNSUPPORTED"),
+                                m_services.strings);
+    notice.RunModal(reinterpret_cast<HWND>(m_mailClient));
+    return notice.DontShowAgain();
 }
 
 void CAddinDialogs::OpenHelpTopic(std::wstring_view topic) {

@@ -17,7 +17,7 @@
 namespace Orva::Plugin {
 
 // The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
-// filtering sheet, modal over the mail client's main window.
+// filtering sheet and the unsupported-server notice, modal over the mail client's main window.
 class CAddinDialogs final : public ICommandDialogs {
 public:
     struct Parts {
@@ -38,9 +38,7 @@ public:
     void OpenStatistics() override { m_notYetBuilt.OpenStatistics(); }
     void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
     void OpenAbout() override { m_notYetBuilt.OpenAbout(); }
-    bool ShowUnsupportedServerNotice() override {
-        return m_notYetBuilt.ShowUnsupportedServerNotice();
-    }
+    bool ShowUnsupportedServerNotice() override;
     void ImportContacts() override { m_notYetBuilt.ImportContacts(); }
 
 private:

@@ -27,6 +27,7 @@ constexpr std::wstring_view kIds[] = {
     L"IDS_QUILLON_SPAMMAIL_FOLDERNAME",
     L"IDS_CAPTION_UNSUPPORTED",
     L"IDS_MSG_UNSUPPORTED",
+    L"IDS_DONT_SHOW_AGAIN",
     // Sender lists.
     L"IDS_HEADER_ADDR",
     L"IDS_HEADER_SENDERNAME",
