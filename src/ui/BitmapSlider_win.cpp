@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "settings/log/DebugLog.h"
+#include "ui/BitmapFile_win.h"
 #include "ui/ControlResourceIds.h"
 #include "ui/MemDC_win.h"
 #include "ui/ResourceModule_win.h"
@@ -15,7 +16,6 @@
 namespace Orva::Ui {
 namespace {
 
-using ZelCommon::Platform::unique_handle;
 using ZelCommon::Platform::unique_hbitmap;
 using ZelCommon::Platform::unique_hdc;
 
@@ -23,8 +23,6 @@ using ZelCommon::Platform::unique_hdc;
 constexpr COLORREF kTransparent = RGB(255, 0, 255);
 // Drawn when not even the built-in bitmap could be loaded: plain system shapes of this size.
 constexpr SliderBitmapLayout kShapesLayout{60, 10, 20};
-// Enough of a bitmap file to hold its file header and information header.
-constexpr std::size_t kHeadBytes = 64;
 
 std::optional<SliderKey> KeyOf(WPARAM virtualKey) {
     switch (virtualKey) {
@@ -115,36 +113,7 @@ void CBitmapSlider::SetBitmap(unique_hbitmap bitmap) {
 }
 
 unique_hbitmap CBitmapSlider::LoadBitmapFile(const std::wstring& path) {
-    if (path.empty()) {
-        return {};
-    }
-    // The system's loader trusts the sizes in the file; the file is checked first, so that a
-    // truncated or enormous one never reaches it.
-    unique_handle file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    LARGE_INTEGER size{};
-    if (!file || ::GetFileSizeEx(file.get(), &size) == FALSE) {
-        ZEL_LOG_TEXT(L"xxx CBitmapSlider: cannot read %s, error %u", path.c_str(),
-                     ::GetLastError());
-        return {};
-    }
-    std::array<std::uint8_t, kHeadBytes> head{};
-    DWORD read = 0;
-    const auto wanted = static_cast<DWORD>(std::min<LONGLONG>(size.QuadPart, kHeadBytes));
-    if (::ReadFile(file.get(), head.data(), wanted, &read, nullptr) == FALSE ||
-        !CSliderRule::IsUsableBitmapFile(std::span(head.data(), read),
-                                         static_cast<std::uint64_t>(size.QuadPart))) {
-        ZEL_LOG_TEXT(L"xxx CBitmapSlider: %s is no usable bitmap", path.c_str());
-        return {};
-    }
-    file.reset();
-    unique_hbitmap bitmap(static_cast<HBITMAP>(::LoadImageW(
-        nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
-    if (!bitmap) {
-        ZEL_LOG_TEXT(L"xxx CBitmapSlider: LoadImageW(%s) failed, error %u", path.c_str(),
-                     ::GetLastError());
-    }
-    return bitmap;
+    return LoadCheckedBitmapFile(path);
 }
 
 void CBitmapSlider::SetPos(int position) {

@@ -1,5 +1,6 @@
 #include "ui/ControlTexts.h"
 
+#include "ui/AboutIds.h"
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
 
@@ -74,6 +75,14 @@ constexpr ControlText kConfirmation[] = {
     {1 /* IDOK */, L"IDS_OK"},
 };
 
+constexpr ControlText kAbout[] = {
+    {IDC_ABOUT_ENGINE_LABEL, L"IDS_ABOUT_ENGINE_VERSION"},
+    {IDC_ABOUT_PATCH_LABEL, L"IDS_ABOUT_PATTERN_VERSION"},
+    {IDC_ABOUT_FILE_LABEL, L"IDS_ABOUT_ADDIN_VERSION"},
+    {IDC_ABOUT_BUILD_LABEL, L"IDS_ABOUT_BUILD"},
+    {1 /* IDOK */, L"IDS_OK"},
+};
+
 constexpr std::wstring_view kLevelNames[] = {L"IDS_LEVEL_HIGH", L"IDS_LEVEL_MEDIUM",
                                              L"IDS_LEVEL_LOW"};
 
@@ -110,6 +119,9 @@ std::span<const ControlText> EncodingsPageTexts() {
 }
 std::span<const ControlText> ConfirmationTexts() {
     return kConfirmation;
+}
+std::span<const ControlText> AboutTexts() {
+    return kAbout;
 }
 std::span<const std::wstring_view> LevelNameIds() {
     return kLevelNames;

@@ -23,6 +23,9 @@
 #include "settings/log/DebugLog.h"
 #include "support/ModalDriver_win.h"
 #include "tools/screens/WindowCapture_win.h"
+#include "ui/AboutContent.h"
+#include "ui/AboutDialog_win.h"
+#include "ui/AboutIds.h"
 #include "ui/ConfirmationDialog_win.h"
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
@@ -89,6 +92,7 @@ public:
                 ? 0
                 : 1;
         failures += ShootConfirmation() ? 0 : 1;
+        failures += ShootAbout() ? 0 : 1;
         return failures;
     }
 
@@ -186,6 +190,26 @@ private:
                   return true;
               }}});
         notice.RunModal(nullptr);
+        return driver.Finished();
+    }
+
+    // The About box as the add-in shows it, with this build's version.
+    bool ShootAbout() {
+        auto& page = m_services->page;
+        Orva::Ui::CAboutDlg about(
+            Orva::Ui::ReadAboutContent(page.settings, page.strings, L"",
+                                       {ORVA_SCREENS_VERSION, L"screenshots"}),
+            page);
+        CModalDriver driver(
+            {{"about", [] { return Orva::Testing::FindDialogHolding(IDC_ABOUT_FILE) != nullptr; }},
+             Settle(),
+             {"save", [this] {
+                  const HWND dialog = Orva::Testing::FindDialogHolding(IDC_ABOUT_FILE);
+                  Save(dialog, L"about");
+                  Orva::Testing::Click(::GetDlgItem(dialog, IDOK));
+                  return true;
+              }}});
+        about.RunModal(nullptr);
         return driver.Finished();
     }
 

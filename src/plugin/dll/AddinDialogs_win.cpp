@@ -1,6 +1,8 @@
 #include "plugin/dll/AddinDialogs_win.h"
 
 #include "settings/localisation/OnlineHelpTopic.h"
+#include "ui/AboutContent.h"
+#include "ui/AboutDialog_win.h"
 #include "ui/ConfirmationDialog_win.h"
 #include "ui/FilteringSheetOpener.h"
 
@@ -20,6 +22,13 @@ CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
 
 void CAddinDialogs::OpenFilteringSheet() {
     Ui::OpenFilteringSheet(m_services, m_sheetPaths, m_windows, m_mailClient);
+}
+
+void CAddinDialogs::OpenAbout() {
+    Ui::CAboutDlg about(Ui::ReadAboutContent(m_services.settings, m_services.strings,
+                                             m_sheetPaths.programFolder, Ui::ThisModuleVersion()),
+                        m_services);
+    about.RunModal(reinterpret_cast<HWND>(m_mailClient));
 }
 
 bool CAddinDialogs::ShowUnsupportedServerNotice() {

@@ -17,7 +17,8 @@
 namespace Orva::Plugin {
 
 // The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
-// filtering sheet and the unsupported-server notice, modal over the mail client's main window.
+// filtering sheet, the About box and the unsupported-server notice, modal over the mail
+// client's main window.
 class CAddinDialogs final : public ICommandDialogs {
 public:
     struct Parts {
@@ -37,7 +38,7 @@ public:
     void OpenFilteringSheet() override;
     void OpenStatistics() override { m_notYetBuilt.OpenStatistics(); }
     void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
-    void OpenAbout() override { m_notYetBuilt.OpenAbout(); }
+    void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
     void ImportContacts() override { m_notYetBuilt.ImportContacts(); }
 

@@ -116,6 +116,10 @@ constexpr std::wstring_view kIds[] = {
     L"IDD_ABOUT_IDC_STATIC_TITLE",
     L"IDC_STATIC_COPYRIGHT",
     L"IDS_ABOUT_WARNING",
+    L"IDS_ABOUT_ENGINE_VERSION",
+    L"IDS_ABOUT_PATTERN_VERSION",
+    L"IDS_ABOUT_ADDIN_VERSION",
+    L"IDS_ABOUT_BUILD",
     // Fonts: face names and point sizes.
     L"IDS_ORVA_SYSTEM_FONT",
     L"IDS_INTERMEDIATE_FONT_SIZE",

@@ -19,6 +19,7 @@
 #include "plugin/protocol/ControllerProtocol.h"
 #include "support/FileBytes.h"
 #include "support/MessagePump_win.h"
+#include "support/ModalDriver_win.h"
 #include "support/ProgramFolder.h"
 #include "support/TempFolder.h"
 #include "support/fakes/mailstore/ComMailStoreFacade_win.h"
@@ -192,5 +193,65 @@ constexpr CLSID kInitClass = {
     0x3f0b5a61, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x41}};
 constexpr CLSID kApiClass = {
     0x3f0b5a62, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x42}};
+
+// The loaded add-in with the host's objects and the simulated agent: a ribbon entry opens a
+// window of the add-in, and a driver acts inside its modal loop as the user.
+class AddinWithRibbon : public AddinInWine {
+protected:
+    AddinWithRibbon() {
+        std::filesystem::create_directories(LogFolder().parent_path());
+        ::DeleteFileW(userFile.c_str());
+        ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        init = std::make_unique<RegisteredHostClass<Testing::FakeHostObject>>(
+            L"NktWLMailApiInit.WLMailApiInit", kInitClass);
+        api = std::make_unique<RegisteredHostClass<Testing::FakeRibbonHost>>(
+            L"NktWLMailApi.WLMailApi", kApiClass);
+    }
+    ~AddinWithRibbon() override {
+        if (Controller() != nullptr) {
+            init->object.Fire(2, {});  // shut-down
+            Testing::PumpMessagesUntil([&] { return Controller() == nullptr; });
+        }
+        addin.reset();
+        api.reset();
+        init.reset();
+        ::CoUninitialize();
+        ::DeleteFileW(userFile.c_str());
+    }
+
+    // Starts the add-in as the host does; false when the ribbon's Settings entry is missing.
+    bool StartAddin() {
+        if (!addin || InitializePlugin() != TRUE ||
+            Testing::WaitForWindowTitled(kAgentTitle) == nullptr) {
+            return false;
+        }
+        init->object.Fire(1, {});  // ready
+        return api->object.entries.size() == 5;
+    }
+    // The logo's drop-down entries, in the order the ribbon adds them.
+    static constexpr size_t kSettingsEntry = 0;
+    static constexpr size_t kStatisticsEntry = 1;
+    static constexpr size_t kAboutEntry = 4;
+
+    // Clicks an entry and runs `steps` inside the modal loop of the window it opens. The click
+    // reaches the controller as a posted message: the window opens while this thread pumps.
+    std::string RunAfterClick(size_t entry, std::vector<Testing::CModalDriver::NamedStep> steps) {
+        Testing::CModalDriver driver(std::move(steps));
+        api->object.entries[entry]->Fire(1, {});
+        Testing::PumpMessagesUntil([&] { return driver.Finished() || !driver.Failure().empty(); },
+                                   60000);
+        return driver.Finished() ? std::string() : "stopped at: " + driver.Failure();
+    }
+    std::wstring Setting(const wchar_t* section, const wchar_t* key) const {
+        wchar_t value[64] = {};
+        ::GetPrivateProfileStringW(section, key, L"<none>", value, 64, userFile.c_str());
+        return value;
+    }
+    std::string AgentRecord() const { return Testing::ReadFileBytes(record); }
+
+    const std::wstring userFile = (LogFolder().parent_path() / L"ORVA_WLM.ini").wstring();
+    std::unique_ptr<RegisteredHostClass<Testing::FakeHostObject>> init;
+    std::unique_ptr<RegisteredHostClass<Testing::FakeRibbonHost>> api;
+};
 
 }  // namespace Orva::Plugin

@@ -13,59 +13,13 @@ namespace {
 using Testing::CModalDriver;
 using Testing::FindDescendant;
 
-// The loaded add-in with the host's objects and the simulated agent: the Settings entry of
-// the ribbon opens the sheet, and a driver acts inside its modal loop as the user.
-class FilteringSheetInAddin : public AddinInWine {
+// The sheet opens from the ribbon's Settings entry.
+class FilteringSheetInAddin : public AddinWithRibbon {
 protected:
-    FilteringSheetInAddin() {
-        std::filesystem::create_directories(LogFolder().parent_path());
-        ::DeleteFileW(userFile.c_str());
-        ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-        init = std::make_unique<RegisteredHostClass<Testing::FakeHostObject>>(
-            L"NktWLMailApiInit.WLMailApiInit", kInitClass);
-        api = std::make_unique<RegisteredHostClass<Testing::FakeRibbonHost>>(
-            L"NktWLMailApi.WLMailApi", kApiClass);
-    }
-    ~FilteringSheetInAddin() override {
-        if (Controller() != nullptr) {
-            init->object.Fire(2, {});  // shut-down
-            Testing::PumpMessagesUntil([&] { return Controller() == nullptr; });
-        }
-        addin.reset();
-        api.reset();
-        init.reset();
-        ::CoUninitialize();
-        ::DeleteFileW(userFile.c_str());
-    }
-
-    // Starts the add-in as the host does; false when the ribbon's Settings entry is missing.
-    bool StartAddin() {
-        if (!addin || InitializePlugin() != TRUE ||
-            Testing::WaitForWindowTitled(kAgentTitle) == nullptr) {
-            return false;
-        }
-        init->object.Fire(1, {});  // ready
-        return api->object.entries.size() == 5;
-    }
-    // Clicks Settings and runs `steps` inside the sheet's modal loop. The click reaches the
-    // controller as a posted message: the sheet opens while this thread pumps.
     std::string RunSheet(std::vector<CModalDriver::NamedStep> steps) {
-        CModalDriver driver(std::move(steps));
-        api->object.entries[0]->Fire(1, {});
-        Testing::PumpMessagesUntil([&] { return driver.Finished() || !driver.Failure().empty(); },
-                                   60000);
-        return driver.Finished() ? std::string() : "stopped at: " + driver.Failure();
+        return RunAfterClick(kSettingsEntry, std::move(steps));
     }
-    std::wstring Setting(const wchar_t* section, const wchar_t* key) const {
-        wchar_t value[64] = {};
-        ::GetPrivateProfileStringW(section, key, L"<none>", value, 64, userFile.c_str());
-        return value;
-    }
-    std::string AgentRecord() const { return Testing::ReadFileBytes(record); }
 
-    const std::wstring userFile = (LogFolder().parent_path() / L"ORVA_WLM.ini").wstring();
-    std::unique_ptr<RegisteredHostClass<Testing::FakeHostObject>> init;
-    std::unique_ptr<RegisteredHostClass<Testing::FakeRibbonHost>> api;
     HWND sheet = nullptr;
 };
 

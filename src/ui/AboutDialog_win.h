@@ -1,0 +1,32 @@
+#pragma once
+
+#include <windows.h>
+
+#include "common_src/platform/UniqueAny_win.h"
+#include "ui/AboutContent.h"
+#include "ui/DialogWindow_win.h"
+#include "ui/PageServices.h"
+
+namespace Orva::Ui {
+
+// The About box: the product's identity, banner and versions. It stays open while the security
+// suite is busy, as the sheet does.
+class CAboutDlg final : public CDialogWindow {
+public:
+    CAboutDlg(AboutContent content, PageServices& services);
+
+private:
+    bool OnInitDialog() override;
+    bool OnCommand(int id, int code, HWND control) override;
+    std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    AboutContent m_content;
+    PageServices& m_services;
+    ZelCommon::Platform::unique_hbitmap m_banner;
+    ZelCommon::Platform::unique_hfont m_titleFont;
+};
+
+// The version strings of the module this code is linked into.
+ModuleVersion ThisModuleVersion();
+
+}  // namespace Orva::Ui

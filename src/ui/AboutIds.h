@@ -1,0 +1,19 @@
+// The About box's template, controls and banner. Read by windres as well: plain #defines.
+#pragma once
+
+#define IDD_ABOUT 6330
+#define IDB_ABOUT_BANNER 6331
+#define IDC_ABOUT_BANNER 6190
+#define IDC_ABOUT_TITLE 6332
+#define IDC_ABOUT_PRODUCT 6333
+#define IDC_ABOUT_COMPANY 6334
+#define IDC_ABOUT_ENGINE_LABEL 6335
+#define IDC_ABOUT_ENGINE 6336
+#define IDC_ABOUT_PATCH_LABEL 6337
+#define IDC_ABOUT_PATCH 6338
+#define IDC_ABOUT_FILE_LABEL 6339
+#define IDC_ABOUT_FILE 6340
+#define IDC_ABOUT_BUILD_LABEL 6341
+#define IDC_ABOUT_BUILD 6342
+#define IDC_ABOUT_COPYRIGHT 6343
+#define IDC_ABOUT_WARNING 6344

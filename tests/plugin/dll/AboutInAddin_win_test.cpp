@@ -1,0 +1,61 @@
+#include <windows.h>
+
+#include "plugin/dll/AddinRig_win.h"
+#include "ui/AboutIds.h"
+
+namespace Orva::Plugin {
+namespace {
+
+class AboutInAddin : public AddinWithRibbon {};
+
+std::wstring TextOf(HWND dialog, int id) {
+    wchar_t text[128] = {};
+    ::GetDlgItemTextW(dialog, id, text, 128);
+    return text;
+}
+
+// The About entry opens the box from the DLL's resources with the DLL's own version; while the
+// suite is busy OK does not close it.
+TEST_F(AboutInAddin, AboutEntry_ShowsTheModulesVersionAndClosesOnlyWhenTheSuiteIsIdle) {
+    ASSERT_TRUE(StartAddin()) << LogText();
+    ZelCommon::Platform::unique_hwnd suite;
+    HWND about = nullptr;
+    std::wstring fileVersion;
+    std::wstring privateBuild;
+
+    const std::string stopped = RunAfterClick(
+        kAboutEntry,
+        {
+            {"about box",
+             [&] {
+                 about = Testing::FindDialogHolding(IDC_ABOUT_FILE);
+                 if (about == nullptr) {
+                     return false;
+                 }
+                 fileVersion = TextOf(about, IDC_ABOUT_FILE);
+                 privateBuild = TextOf(about, IDC_ABOUT_BUILD);
+                 suite.reset(::CreateWindowExW(0, L"STATIC", kSuiteWindowTitle.data(), WS_POPUP, 0,
+                                               0, 0, 0, nullptr, nullptr, nullptr, nullptr));
+                 Testing::Click(::GetDlgItem(about, IDOK));
+                 return true;
+             }},
+            {"OK handled", [ticks = 0]() mutable { return ++ticks > 5; }},
+            {"still open while the suite is busy",
+             [&] {
+                 if (!::IsWindow(about)) {
+                     return false;
+                 }
+                 suite.reset();
+                 Testing::Click(::GetDlgItem(about, IDOK));
+                 return true;
+             }},
+        });
+
+    EXPECT_EQ(stopped, "");
+    EXPECT_FALSE(::IsWindow(about));
+    EXPECT_EQ(fileVersion, L"1.0.0.0");
+    EXPECT_NE(privateBuild, L"");
+}
+
+}  // namespace
+}  // namespace Orva::Plugin
