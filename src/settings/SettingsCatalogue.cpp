@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "settings/FeedbackAddresses.h"
+
 namespace Orva::Settings {
 namespace {
 
@@ -19,9 +21,6 @@ constexpr std::wstring_view kVersion64 = L"ORVA_OE64";
 // The version file's pname, class and type go to the section of the machine's bitness;
 // DeployVersion stays in the 32-bit section on every machine.
 constexpr std::wstring_view kRunTime = L"";
-
-// The maker's feedback server; deployments override it in the per-user file.
-constexpr std::wstring_view kFeedbackServer = L"http://wtc.halvion.com/";
 
 using enum SettingId;
 using enum SettingsFile;

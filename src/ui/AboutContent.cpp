@@ -35,6 +35,7 @@ AboutContent ReadAboutContent(const Settings::SettingsStore& settings,
     content.patchVersion = settings.GetString(SettingId::PatchVer);
     content.fileVersion = version.fileVersion;
     content.privateBuild = version.privateBuild;
+    content.showFeedbackButton = settings.GetInt(SettingId::InstallShowWTCButton) != 0;
     return content;
 }
 

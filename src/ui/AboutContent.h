@@ -12,6 +12,8 @@ namespace Orva::Ui {
 struct ModuleVersion {
     std::wstring fileVersion;
     std::wstring privateBuild;
+    // The installation offers the feedback programme from the About box.
+    bool showFeedbackButton = true;
 };
 
 // What the About box shows: the installation's branding where it sets one, the user's language
@@ -29,6 +31,8 @@ struct AboutContent {
     std::wstring patchVersion;
     std::wstring fileVersion;
     std::wstring privateBuild;
+    // The installation offers the feedback programme from the About box.
+    bool showFeedbackButton = true;
 };
 
 // `moduleFolder` is the add-in's folder with its final separator.

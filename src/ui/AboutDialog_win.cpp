@@ -7,13 +7,18 @@
 #include "ui/BitmapFile_win.h"
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
+#include "ui/FeedbackDialog_win.h"
 #include "ui/Headline.h"
 #include "ui/ResourceModule_win.h"
 
 namespace Orva::Ui {
 
-CAboutDlg::CAboutDlg(AboutContent content, PageServices& services)
-    : CDialogWindow(IDD_ABOUT), m_content(std::move(content)), m_services(services) {}
+CAboutDlg::CAboutDlg(AboutContent content, PageServices& services,
+                     ZelCommon::Platform::IShellOpen& shell)
+    : CDialogWindow(IDD_ABOUT),
+      m_content(std::move(content)),
+      m_services(services),
+      m_shell(shell) {}
 
 bool CAboutDlg::OnInitDialog() {
     UseWhiteBackground();
@@ -43,10 +48,16 @@ bool CAboutDlg::OnInitDialog() {
     m_titleFont = CreateHeadlineFont(Handle(), font.face, font.points);
     ::SendDlgItemMessageW(Handle(), IDC_ABOUT_TITLE, WM_SETFONT,
                           reinterpret_cast<WPARAM>(m_titleFont.get()), FALSE);
+    ::ShowWindow(Item(IDC_ABOUT_FEEDBACK), m_content.showFeedbackButton ? SW_SHOW : SW_HIDE);
     return true;
 }
 
-bool CAboutDlg::OnCommand(int id, int /*code*/, HWND /*control*/) {
+bool CAboutDlg::OnCommand(int id, int code, HWND /*control*/) {
+    if (id == IDC_ABOUT_FEEDBACK && code == BN_CLICKED) {
+        CFeedbackDlg feedback(m_services, m_shell);
+        feedback.RunModal(Handle());
+        return true;
+    }
     if (id != IDOK && id != IDCANCEL) {
         return false;
     }

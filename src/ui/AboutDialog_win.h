@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/UniqueAny_win.h"
 #include "ui/AboutContent.h"
 #include "ui/DialogWindow_win.h"
@@ -9,11 +10,11 @@
 
 namespace Orva::Ui {
 
-// The About box: the product's identity, banner and versions. It stays open while the security
-// suite is busy, as the sheet does.
+// The About box: the product's identity, banner and versions, and the way to the feedback
+// programme. It stays open while the security suite is busy, as the sheet does.
 class CAboutDlg final : public CDialogWindow {
 public:
-    CAboutDlg(AboutContent content, PageServices& services);
+    CAboutDlg(AboutContent content, PageServices& services, ZelCommon::Platform::IShellOpen& shell);
 
 private:
     bool OnInitDialog() override;
@@ -22,6 +23,7 @@ private:
 
     AboutContent m_content;
     PageServices& m_services;
+    ZelCommon::Platform::IShellOpen& m_shell;
     ZelCommon::Platform::unique_hbitmap m_banner;
     ZelCommon::Platform::unique_hfont m_titleFont;
 };

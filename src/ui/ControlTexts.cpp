@@ -3,6 +3,7 @@
 #include "ui/AboutIds.h"
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
+#include "ui/FeedbackIds.h"
 
 namespace Orva::Ui {
 namespace {
@@ -80,7 +81,15 @@ constexpr ControlText kAbout[] = {
     {IDC_ABOUT_PATCH_LABEL, L"IDS_ABOUT_PATTERN_VERSION"},
     {IDC_ABOUT_FILE_LABEL, L"IDS_ABOUT_ADDIN_VERSION"},
     {IDC_ABOUT_BUILD_LABEL, L"IDS_ABOUT_BUILD"},
+    {IDC_ABOUT_FEEDBACK, L"IDS_ABOUT_FEEDBACK_BUTTON"},
     {1 /* IDOK */, L"IDS_OK"},
+};
+
+constexpr ControlText kFeedback[] = {
+    {IDC_FEEDBACK_TITLE, L"IDS_WTC_TITLE"}, {IDC_FEEDBACK_DESCRIPTION, L"IDS_WTC_DESCRIPTION"},
+    {IDC_FEEDBACK_YES, L"IDS_WTC_YES"},     {IDC_FEEDBACK_NO, L"IDS_WTC_NO"},
+    {IDC_FEEDBACK_LINK, L"IDS_WTC_LINK"},   {1 /* IDOK */, L"IDS_OK"},
+    {2 /* IDCANCEL */, L"IDS_CANCEL"},
 };
 
 constexpr std::wstring_view kLevelNames[] = {L"IDS_LEVEL_HIGH", L"IDS_LEVEL_MEDIUM",
@@ -122,6 +131,9 @@ std::span<const ControlText> ConfirmationTexts() {
 }
 std::span<const ControlText> AboutTexts() {
     return kAbout;
+}
+std::span<const ControlText> FeedbackTexts() {
+    return kFeedback;
 }
 std::span<const std::wstring_view> LevelNameIds() {
     return kLevelNames;

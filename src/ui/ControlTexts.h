@@ -22,6 +22,7 @@ std::span<const ControlText> BlockedPageTexts();
 std::span<const ControlText> EncodingsPageTexts();
 std::span<const ControlText> ConfirmationTexts();
 std::span<const ControlText> AboutTexts();
+std::span<const ControlText> FeedbackTexts();
 
 // The three entries of every category's combo box, highest level first.
 std::span<const std::wstring_view> LevelNameIds();

@@ -15,6 +15,7 @@
 
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/platform/Locale.h"
+#include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "plugin/agent/AgentNotices.h"
 #include "settings/SettingsStore.h"
@@ -29,6 +30,7 @@
 #include "ui/ConfirmationDialog_win.h"
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
+#include "ui/FeedbackIds.h"
 #include "ui/FilteringSheet_win.h"
 
 namespace {
@@ -199,13 +201,33 @@ private:
         Orva::Ui::CAboutDlg about(
             Orva::Ui::ReadAboutContent(page.settings, page.strings, L"",
                                        {ORVA_SCREENS_VERSION, L"screenshots"}),
-            page);
+            page, ZelCommon::Platform::SystemShellOpen());
         CModalDriver driver(
             {{"about", [] { return Orva::Testing::FindDialogHolding(IDC_ABOUT_FILE) != nullptr; }},
              Settle(),
-             {"save", [this] {
+             {"save",
+              [this] {
                   const HWND dialog = Orva::Testing::FindDialogHolding(IDC_ABOUT_FILE);
                   Save(dialog, L"about");
+                  Orva::Testing::Click(::GetDlgItem(dialog, IDC_ABOUT_FEEDBACK));
+                  return true;
+              }},
+             {"feedback",
+              [] { return Orva::Testing::FindDialogHolding(IDC_FEEDBACK_LINK) != nullptr; }},
+             Settle(),
+             {"save feedback",
+              [this] {
+                  const HWND feedback = Orva::Testing::FindDialogHolding(IDC_FEEDBACK_LINK);
+                  Save(feedback, L"feedback-programme");
+                  Orva::Testing::Click(::GetDlgItem(feedback, IDCANCEL));
+                  return true;
+              }},
+             {"close about", [] {
+                  const HWND dialog = Orva::Testing::FindDialogHolding(IDC_ABOUT_FILE);
+                  if (dialog == nullptr ||
+                      Orva::Testing::FindDialogHolding(IDC_FEEDBACK_LINK) != nullptr) {
+                      return false;
+                  }
                   Orva::Testing::Click(::GetDlgItem(dialog, IDOK));
                   return true;
               }}});

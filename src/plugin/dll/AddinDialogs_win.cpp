@@ -27,7 +27,7 @@ void CAddinDialogs::OpenFilteringSheet() {
 void CAddinDialogs::OpenAbout() {
     Ui::CAboutDlg about(Ui::ReadAboutContent(m_services.settings, m_services.strings,
                                              m_sheetPaths.programFolder, Ui::ThisModuleVersion()),
-                        m_services);
+                        m_services, m_shell);
     about.RunModal(reinterpret_cast<HWND>(m_mailClient));
 }
 

@@ -120,6 +120,13 @@ constexpr std::wstring_view kIds[] = {
     L"IDS_ABOUT_PATTERN_VERSION",
     L"IDS_ABOUT_ADDIN_VERSION",
     L"IDS_ABOUT_BUILD",
+    L"IDS_WTC_CAPTION",
+    L"IDS_WTC_TITLE",
+    L"IDS_WTC_DESCRIPTION",
+    L"IDS_WTC_YES",
+    L"IDS_WTC_NO",
+    L"IDS_WTC_LINK",
+    L"IDS_ABOUT_FEEDBACK_BUTTON",
     // Fonts: face names and point sizes.
     L"IDS_ORVA_SYSTEM_FONT",
     L"IDS_INTERMEDIATE_FONT_SIZE",
