@@ -14,11 +14,12 @@
 namespace Orva::Ui {
 
 CAboutDlg::CAboutDlg(AboutContent content, PageServices& services,
-                     ZelCommon::Platform::IShellOpen& shell)
+                     ZelCommon::Platform::IShellOpen& shell, UpdatesOpener openUpdates)
     : CDialogWindow(IDD_ABOUT),
       m_content(std::move(content)),
       m_services(services),
-      m_shell(shell) {}
+      m_shell(shell),
+      m_openUpdates(std::move(openUpdates)) {}
 
 bool CAboutDlg::OnInitDialog() {
     UseWhiteBackground();
@@ -49,10 +50,32 @@ bool CAboutDlg::OnInitDialog() {
     ::SendDlgItemMessageW(Handle(), IDC_ABOUT_TITLE, WM_SETFONT,
                           reinterpret_cast<WPARAM>(m_titleFont.get()), FALSE);
     ::ShowWindow(Item(IDC_ABOUT_FEEDBACK), m_content.showFeedbackButton ? SW_SHOW : SW_HIDE);
+    if (m_openUpdates) {
+        PlaceUpdatesButton();
+    }
     return true;
 }
 
+// Beside the feedback button, or in its place when the installation hides it.
+void CAboutDlg::PlaceUpdatesButton() {
+    const HWND updates = Item(IDC_ABOUT_UPDATES);
+    if (!m_content.showFeedbackButton) {
+        RECT feedback{};
+        ::GetWindowRect(Item(IDC_ABOUT_FEEDBACK), &feedback);
+        ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&feedback), 2);
+        ::SetWindowPos(updates, nullptr, feedback.left, feedback.top, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    ::ShowWindow(updates, SW_SHOW);
+}
+
 bool CAboutDlg::OnCommand(int id, int code, HWND /*control*/) {
+    if (id == IDC_ABOUT_UPDATES && code == BN_CLICKED) {
+        if (m_openUpdates) {
+            m_openUpdates(Handle());
+        }
+        return true;
+    }
     if (id == IDC_ABOUT_FEEDBACK && code == BN_CLICKED) {
         CFeedbackDlg feedback(m_services, m_shell);
         feedback.RunModal(Handle());

@@ -4,6 +4,7 @@
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
 #include "ui/FeedbackIds.h"
+#include "ui/UpdatesIds.h"
 
 namespace Orva::Ui {
 namespace {
@@ -82,6 +83,7 @@ constexpr ControlText kAbout[] = {
     {IDC_ABOUT_FILE_LABEL, L"IDS_ABOUT_ADDIN_VERSION"},
     {IDC_ABOUT_BUILD_LABEL, L"IDS_ABOUT_BUILD"},
     {IDC_ABOUT_FEEDBACK, L"IDS_ABOUT_FEEDBACK_BUTTON"},
+    {IDC_ABOUT_UPDATES, L"IDS_ABOUT_UPDATES_BUTTON"},
     {1 /* IDOK */, L"IDS_OK"},
 };
 
@@ -90,6 +92,40 @@ constexpr ControlText kFeedback[] = {
     {IDC_FEEDBACK_YES, L"IDS_WTC_YES"},     {IDC_FEEDBACK_NO, L"IDS_WTC_NO"},
     {IDC_FEEDBACK_LINK, L"IDS_WTC_LINK"},   {1 /* IDOK */, L"IDS_OK"},
     {2 /* IDCANCEL */, L"IDS_CANCEL"},
+};
+
+constexpr ControlText kUpdates[] = {
+    {IDC_UPDATES_GROUP, L"IDS_UPDATES_GROUP"},
+    {IDC_UPDATES_ENGINE_LABEL, L"IDS_ABOUT_ENGINE_VERSION"},
+    {IDC_UPDATES_PATTERN_LABEL, L"IDS_ABOUT_PATTERN_VERSION"},
+    {IDC_UPDATES_AGENT_LABEL, L"IDS_UPDATES_AGENT_VERSION"},
+    {IDC_UPDATES_LAST_LABEL, L"IDS_UPDATES_LAST"},
+    {IDC_UPDATES_NOW, L"IDS_UPDATES_NOW"},
+    {IDC_UPDATES_SCHEDULE_GROUP, L"IDS_UPDATES_SCHEDULE_TITLE"},
+    {IDC_UPDATES_SCHEDULED, L"IDS_UPDATES_SCHEDULED"},
+    {IDC_UPDATES_EVERY_LABEL, L"IDS_UPDATES_EVERY"},
+    {IDC_UPDATES_SILENT, L"IDS_UPDATES_SILENT"},
+    {IDC_UPDATES_PROXY, L"IDS_UPDATES_PROXY_BUTTON"},
+    {IDC_UPDATES_HELP, L"IDS_HELP"},
+    {1 /* IDOK */, L"IDS_OK"},
+    {2 /* IDCANCEL */, L"IDS_CANCEL"},
+};
+
+constexpr ControlText kProxy[] = {
+    {IDC_PROXY_TITLE, L"IDS_PROXY_TITLE"},
+    {IDC_PROXY_ENABLE, L"IDS_PROXY_ENABLE"},
+    {IDC_PROXY_HOST_LABEL, L"IDS_PROXY_HOST"},
+    {IDC_PROXY_PORT_LABEL, L"IDS_PROXY_PORT"},
+    {IDC_PROXY_USER_LABEL, L"IDS_PROXY_USER"},
+    {IDC_PROXY_PASSWORD_LABEL, L"IDS_PROXY_PASSWORD"},
+    {1 /* IDOK */, L"IDS_OK"},
+    {2 /* IDCANCEL */, L"IDS_CANCEL"},
+};
+
+// In the order of the schedule's choices: 1, 3, 6, 9 and 12 hours, one and two days.
+constexpr std::wstring_view kIntervalNames[] = {
+    L"IDS_INTERVAL_60",  L"IDS_INTERVAL_180",  L"IDS_INTERVAL_360",  L"IDS_INTERVAL_540",
+    L"IDS_INTERVAL_720", L"IDS_INTERVAL_1440", L"IDS_INTERVAL_2880",
 };
 
 constexpr std::wstring_view kLevelNames[] = {L"IDS_LEVEL_HIGH", L"IDS_LEVEL_MEDIUM",
@@ -134,6 +170,15 @@ std::span<const ControlText> AboutTexts() {
 }
 std::span<const ControlText> FeedbackTexts() {
     return kFeedback;
+}
+std::span<const ControlText> UpdatesTexts() {
+    return kUpdates;
+}
+std::span<const ControlText> ProxyTexts() {
+    return kProxy;
+}
+std::span<const std::wstring_view> IntervalNameIds() {
+    return kIntervalNames;
 }
 std::span<const std::wstring_view> LevelNameIds() {
     return kLevelNames;

@@ -23,6 +23,11 @@ std::span<const ControlText> EncodingsPageTexts();
 std::span<const ControlText> ConfirmationTexts();
 std::span<const ControlText> AboutTexts();
 std::span<const ControlText> FeedbackTexts();
+std::span<const ControlText> UpdatesTexts();
+std::span<const ControlText> ProxyTexts();
+
+// The updates schedule's combo box entries, in the order of its choices.
+std::span<const std::wstring_view> IntervalNameIds();
 
 // The three entries of every category's combo box, highest level first.
 std::span<const std::wstring_view> LevelNameIds();

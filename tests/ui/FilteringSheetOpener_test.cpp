@@ -54,13 +54,13 @@ TEST(ControlTexts, EveryStringIdOfThePages_IsOneTheShippedTablesMustHold) {
     for (const auto& table :
          {DefaultLevelTexts(), CustomLevelTexts(), CategoryLevelTexts(), WorryFreeLevelTexts(),
           AdvancedPageTexts(), ApprovedPageTexts(), BlockedPageTexts(), EncodingsPageTexts(),
-          ConfirmationTexts(), AboutTexts(), FeedbackTexts()}) {
+          ConfirmationTexts(), AboutTexts(), FeedbackTexts(), UpdatesTexts(), ProxyTexts()}) {
         for (const ControlText& text : table) {
             EXPECT_TRUE(isKnown(text.stringId))
                 << std::string(text.stringId.begin(), text.stringId.end());
         }
     }
-    for (const auto& ids : {LevelNameIds(), PageTitleIds()}) {
+    for (const auto& ids : {LevelNameIds(), PageTitleIds(), IntervalNameIds()}) {
         for (const std::wstring_view id : ids) {
             EXPECT_TRUE(isKnown(id)) << std::string(id.begin(), id.end());
         }

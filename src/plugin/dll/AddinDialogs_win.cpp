@@ -1,10 +1,13 @@
 #include "plugin/dll/AddinDialogs_win.h"
 
+#include "common_src/ZelCommon/RegistryApi.h"
+#include "common_src/platform/ProcessLauncher.h"
 #include "settings/localisation/OnlineHelpTopic.h"
 #include "ui/AboutContent.h"
 #include "ui/AboutDialog_win.h"
 #include "ui/ConfirmationDialog_win.h"
 #include "ui/FilteringSheetOpener.h"
+#include "ui/UpdatesDialog_win.h"
 
 namespace Orva::Plugin {
 
@@ -16,6 +19,7 @@ CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
                    parts.paths.dataRoot},
       m_loader(parts.loader),
       m_shell(parts.shell),
+      m_messaging(parts.messaging),
       m_log(parts.log),
       m_windows([this](std::wstring_view topic) { OpenHelpTopic(topic); }),
       m_notYetBuilt(notYetBuilt) {}
@@ -27,7 +31,9 @@ void CAddinDialogs::OpenFilteringSheet() {
 void CAddinDialogs::OpenAbout() {
     Ui::CAboutDlg about(Ui::ReadAboutContent(m_services.settings, m_services.strings,
                                              m_sheetPaths.programFolder, Ui::ThisModuleVersion()),
-                        m_services, m_shell);
+                        m_services, m_shell, [this](HWND owner) {
+                            RunUpdates(reinterpret_cast<ZelCommon::Platform::WindowHandle>(owner));
+                        });
     about.RunModal(reinterpret_cast<HWND>(m_mailClient));
 }
 
@@ -37,6 +43,14 @@ bool CAddinDialogs::ShowUnsupportedServerNotice() {
                                 m_services.strings);
     notice.RunModal(reinterpret_cast<HWND>(m_mailClient));
     return notice.DontShowAgain();
+}
+
+void CAddinDialogs::RunUpdates(ZelCommon::Platform::WindowHandle owner) {
+    Ui::RunUpdatesDialog(m_services,
+                         {ZelCommon::Storage::SystemRegistryApi(), m_messaging,
+                          ZelCommon::Platform::SystemProcessLauncher()},
+                         m_sheetPaths.programFolder, {m_boxes, m_protector},
+                         reinterpret_cast<HWND>(owner));
 }
 
 void CAddinDialogs::OpenHelpTopic(std::wstring_view topic) {

@@ -11,14 +11,16 @@
 #include "settings/localisation/ZelResourceStringLoader.h"
 #include "settings/log/DebugLog.h"
 #include "ui/FilteringSheetModel.h"
+#include "ui/MessageBoxes_win.h"
 #include "ui/PageServices.h"
+#include "ui/PasswordProtector_win.h"
 #include "ui/SheetWindows_win.h"
 
 namespace Orva::Plugin {
 
 // The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
 // filtering sheet, the About box and the unsupported-server notice, modal over the mail
-// client's main window.
+// client's main window, and the updates dialog, which the About box opens.
 class CAddinDialogs final : public ICommandDialogs {
 public:
     struct Parts {
@@ -41,16 +43,22 @@ public:
     void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
     void ImportContacts() override { m_notYetBuilt.ImportContacts(); }
+    // The ribbon has no entry for it: the About box offers it.
+    void OpenUpdates() { RunUpdates(m_mailClient); }
 
 private:
     void OpenHelpTopic(std::wstring_view topic);
+    void RunUpdates(ZelCommon::Platform::WindowHandle owner);
 
     CAgentNotices m_agent;
     Ui::PageServices m_services;
     Ui::SheetPaths m_sheetPaths;
     ZelResourceStringLoader& m_loader;
     ZelCommon::Platform::IShellOpen& m_shell;
+    ZelCommon::Platform::IWindowMessaging& m_messaging;
     ZelCommon::Library::DebugLog& m_log;
+    Ui::CMessageBoxes m_boxes;
+    Ui::CUserPasswordProtector m_protector;
     Ui::CSheetWindows m_windows;
     ICommandDialogs& m_notYetBuilt;
     ZelCommon::Platform::WindowHandle m_mailClient = 0;

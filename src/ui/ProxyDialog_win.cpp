@@ -1,0 +1,77 @@
+#include "ui/ProxyDialog_win.h"
+
+#include <utility>
+#include <vector>
+
+#include "ui/ControlTexts.h"
+#include "ui/DialogTexts_win.h"
+#include "ui/Headline.h"
+#include "ui/UpdatesIds.h"
+
+namespace Orva::Ui {
+
+CProxySettingDlg::CProxySettingDlg(PageServices& services, IMessageBoxes& boxes,
+                                   IPasswordProtector& protector)
+    : CDialogWindow(IDD_PROXY), m_services(services), m_model(services, boxes, protector) {}
+
+bool CProxySettingDlg::OnInitDialog() {
+    UseWhiteBackground();
+    if (const std::wstring caption = m_services.strings.LoadShown(L"IDS_PROXY_CAPTION");
+        !caption.empty()) {
+        ::SetWindowTextW(Handle(), caption.c_str());
+    }
+    ApplyControlTexts(Handle(), ProxyTexts(), m_services.strings);
+    ::SetDlgItemTextW(Handle(), IDC_PROXY_TITLE, m_model.Headline(TextOf(IDC_PROXY_TITLE)).c_str());
+    const FontSpec font =
+        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
+    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
+    ::SendDlgItemMessageW(Handle(), IDC_PROXY_TITLE, WM_SETFONT,
+                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
+
+    const ProxyFields fields = m_model.Load();
+    SetChecked(IDC_PROXY_ENABLE, fields.enabled);
+    ::SetDlgItemTextW(Handle(), IDC_PROXY_HOST, fields.host.c_str());
+    ::SetDlgItemTextW(Handle(), IDC_PROXY_PORT, fields.port.c_str());
+    ::SetDlgItemTextW(Handle(), IDC_PROXY_USER, fields.user.c_str());
+    ::SetDlgItemTextW(Handle(), IDC_PROXY_PASSWORD, fields.password.c_str());
+    m_port.SubclassWindow(Item(IDC_PROXY_PORT));
+    m_port.SetRange(kLargestPort);
+    m_shortcuts.Watch(Handle());
+    return true;
+}
+
+std::wstring CProxySettingDlg::TextOf(int id) const {
+    const HWND control = Item(id);
+    std::vector<wchar_t> text(static_cast<size_t>(::GetWindowTextLengthW(control)) + 1);
+    const int length = ::GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
+    return std::wstring(text.data(), static_cast<size_t>(length > 0 ? length : 0));
+}
+
+bool CProxySettingDlg::OnCommand(int id, int /*code*/, HWND /*control*/) {
+    if (id == IDCANCEL) {
+        ::EndDialog(Handle(), IDCANCEL);
+        return true;
+    }
+    if (id != IDOK) {
+        return false;
+    }
+    const ProxyFields shown{IsChecked(IDC_PROXY_ENABLE), TextOf(IDC_PROXY_HOST),
+                            TextOf(IDC_PROXY_PORT), TextOf(IDC_PROXY_USER),
+                            TextOf(IDC_PROXY_PASSWORD)};
+    switch (m_model.Save(shown)) {
+        case ProxyField::Host:
+            ::SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_PROXY_HOST)),
+                           TRUE);
+            break;
+        case ProxyField::Port:
+            ::SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_PROXY_PORT)),
+                           TRUE);
+            break;
+        default:
+            ::EndDialog(Handle(), IDOK);
+            break;
+    }
+    return true;
+}
+
+}  // namespace Orva::Ui

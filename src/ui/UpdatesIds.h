@@ -1,0 +1,36 @@
+// The updates and proxy dialogs' templates and controls. Read by windres as well: plain
+// #defines. The group frame and the proxy's host and port edits keep the numbers the product's
+// other parts know them by.
+#pragma once
+
+#define IDD_UPDATES 6400
+#define IDD_PROXY 6401
+
+#define IDC_UPDATES_GROUP 6100
+#define IDC_UPDATES_ENGINE_LABEL 6410
+#define IDC_UPDATES_ENGINE 6411
+#define IDC_UPDATES_PATTERN_LABEL 6412
+#define IDC_UPDATES_PATTERN 6413
+#define IDC_UPDATES_AGENT_LABEL 6414
+#define IDC_UPDATES_AGENT 6415
+#define IDC_UPDATES_LAST_LABEL 6416
+#define IDC_UPDATES_LAST 6417
+#define IDC_UPDATES_NOW 6418
+#define IDC_UPDATES_SCHEDULE_GROUP 6420
+#define IDC_UPDATES_SCHEDULED 6421
+#define IDC_UPDATES_EVERY_LABEL 6422
+#define IDC_UPDATES_INTERVAL 6423
+#define IDC_UPDATES_SILENT 6424
+#define IDC_UPDATES_PROXY 6425
+#define IDC_UPDATES_HELP 6426
+
+#define IDC_PROXY_TITLE 6430
+#define IDC_PROXY_ENABLE 6431
+#define IDC_PROXY_HOST_LABEL 6432
+#define IDC_PROXY_HOST 6033
+#define IDC_PROXY_PORT_LABEL 6434
+#define IDC_PROXY_PORT 6035
+#define IDC_PROXY_USER_LABEL 6436
+#define IDC_PROXY_USER 6437
+#define IDC_PROXY_PASSWORD_LABEL 6438
+#define IDC_PROXY_PASSWORD 6439
