@@ -16,20 +16,14 @@ using Settings::SettingId;
 constexpr int64_t kNow = 1'700'000'000;
 
 struct UpdatesRig : Testing::PageRig {
-    // The suite's key with its values as REG_SZ.
-    void InstallSuite(std::initializer_list<std::pair<const wchar_t*, std::wstring>> values) {
+    // The suite's key with one REG_SZ value.
+    void InstallSuite(const wchar_t* name, const std::wstring& text) {
         RegHandle key = 0;
-        ASSERT_EQ(
-            registry.CreateKey(RootHandle(RegRoot::LocalMachine), L"SOFTWARE\\Halvion\\Vantor",
-                               RegAccess::AllAccess, nullptr, &key),
-            0);
-        for (const auto& [name, text] : values) {
-            std::string bytes = ZelCommon::Text::WideToUtf16Le(text);
-            bytes.append(2, '\0');
-            registry.SetValue(key, name, RegType::Sz,
-                              reinterpret_cast<const uint8_t*>(bytes.data()),
-                              static_cast<uint32_t>(bytes.size()));
-        }
+        registry.CreateKey(RootHandle(RegRoot::LocalMachine), L"SOFTWARE\\Halvion\\Vantor",
+                           RegAccess::AllAccess, nullptr, &key);
+        const std::string bytes = ZelCommon::Text::WideToUtf16Le(text) + std::string(2, '\0');
+        registry.SetValue(key, name, RegType::Sz, reinterpret_cast<const uint8_t*>(bytes.data()),
+                          static_cast<uint32_t>(bytes.size()));
         registry.CloseKey(key);
     }
     CUpdatesModel Model() {
@@ -42,11 +36,11 @@ struct UpdatesRig : Testing::PageRig {
 
 // Each choice takes the stored values up to its own: 119 still shows one hour, 120 three.
 TEST(UpdatesSchedule, StoredInterval_ShowsTheSmallestChoiceNotBelowIt) {
-    const std::pair<int32_t, int> cases[] = {
-        {-5, 0},  {0, 0},   {119, 0}, {120, 1}, {180, 1},  {181, 2},  {360, 2},  {361, 3},
-        {540, 3}, {541, 4}, {720, 4}, {721, 5}, {1440, 5}, {1441, 6}, {2880, 6}, {99999, 6},
+    const std::pair<int32_t, int> shown[] = {
+        {-5, 0},  {119, 0}, {120, 1}, {180, 1},  {181, 2},  {360, 2},  {361, 3},   {540, 3},
+        {541, 4}, {720, 4}, {721, 5}, {1440, 5}, {1441, 6}, {2880, 6}, {99999, 6},
     };
-    for (const auto& [minutes, index] : cases) {
+    for (const auto& [minutes, index] : shown) {
         EXPECT_EQ(ScheduleIndexOf(minutes), index) << minutes;
     }
     const std::pair<int, int32_t> written[] = {{0, 60},   {1, 180},  {2, 360},  {3, 540},  {4, 720},
@@ -56,29 +50,23 @@ TEST(UpdatesSchedule, StoredInterval_ShowsTheSmallestChoiceNotBelowIt) {
     }
 }
 
-TEST(UpdatesModel, Interval200_ShowsAndWritesSixHours) {
-    UpdatesRig rig;
-    rig.files.SetUserRaw(SettingId::Interval, L"200");
-    rig.files.SetUserRaw(SettingId::UpdateUI, L"1");
-    CUpdatesModel model = rig.Model();
-    EXPECT_EQ(model.Choices(), (UpdateChoices{true, false, 2}));
-    EXPECT_FALSE(model.IsOkEnabled());
-
-    model.NoteChange();
-    ASSERT_TRUE(model.IsOkEnabled());
-    EXPECT_TRUE(model.Confirm({false, true, 2}));
-    EXPECT_EQ(rig.files.UserRaw(SettingId::Interval), L"360");
-    EXPECT_EQ(rig.files.UserRaw(SettingId::EnableSchedule), L"0");
-    EXPECT_EQ(rig.files.UserRaw(SettingId::UpdateUI), L"0");
-}
-
-TEST(UpdatesModel, SuiteBusy_OkWritesNothingAndStaysOpen) {
-    UpdatesRig rig;
-    rig.windows.AddWindow(std::wstring(Plugin::kSuiteWindowTitle));
-    CUpdatesModel model = rig.Model();
-    model.NoteChange();
-    EXPECT_FALSE(model.Confirm({false, false, 0}));
-    EXPECT_EQ(rig.files.UserRaw(SettingId::Interval), L"<missing>");
+// OK writes only after a change, never while the suite is busy; 200 minutes come back as 360.
+TEST(UpdatesModel, Interval200_OkWritesSixHoursUnlessTheSuiteIsBusy) {
+    for (const bool suiteBusy : {false, true}) {
+        UpdatesRig rig;
+        rig.files.SetUserRaw(SettingId::Interval, L"200");
+        rig.files.SetUserRaw(SettingId::UpdateUI, L"1");
+        if (suiteBusy) {
+            rig.windows.AddWindow(std::wstring(Plugin::kSuiteWindowTitle));
+        }
+        CUpdatesModel model = rig.Model();
+        EXPECT_EQ(model.Choices(), (UpdateChoices{true, false, 2}));
+        EXPECT_FALSE(model.IsOkEnabled());
+        model.NoteChange();
+        EXPECT_EQ(model.Confirm({false, true, 2}), !suiteBusy);
+        EXPECT_EQ(rig.files.UserRaw(SettingId::Interval), suiteBusy ? L"200" : L"360");
+        EXPECT_EQ(rig.files.UserRaw(SettingId::UpdateUI), suiteBusy ? L"1" : L"0");
+    }
 }
 
 // Seven days to the second are out of date; a time in the future is current.
@@ -109,31 +97,16 @@ TEST(UpdatesModel, LastUpdate_TextAndColourByAge) {
 TEST(UpdatesModel, Refresh_PicksUpWhatTheAgentWrote) {
     UpdatesRig rig;
     CUpdatesModel model = rig.Model();
-    EXPECT_EQ(model.Status(), (UpdateStatus{L"0.0.0", L"00000000", L"0.00.0.0000", 0, 0}));
     EXPECT_FALSE(model.Refresh());
-
     rig.files.SetUserRaw(SettingId::PatchVer, L"20240131");
     rig.files.SetUserRaw(SettingId::LastUpdateTime, L"1700000000");
     rig.files.SetUserRaw(SettingId::UpToDate, L"1");
     EXPECT_TRUE(model.Refresh());
     EXPECT_EQ(model.Status(), (UpdateStatus{L"0.0.0", L"20240131", L"0.00.0.0000", kNow, 1}));
-    EXPECT_FALSE(model.Refresh());
 }
 
-TEST(UpdatesModel, GroupTitle_InstallationTitleElseLocalised_WithTheSpamName) {
-    UpdatesRig rig;
-    rig.strings.texts[L"IDS_SPAM_NAME"] = L"Anti-Spam";
-    EXPECT_EQ(rig.Model().GroupTitle(L"<$SPAM_NAME> updates"), L"Anti-Spam updates");
-    rig.files.SetInstall(SettingId::InstallASGroupTitle, L"<$SPAM_NAME> rules");
-    rig.files.SetInstall(SettingId::InstallAntiSpamTitle, L"SpamGuard");
-    EXPECT_EQ(rig.Model().GroupTitle(L"<$SPAM_NAME> updates"), L"SpamGuard rules");
-}
-
-// Update now asks the agent (1030, posted) unless the suite is version 17, with the log lines
-// the support desk reads.
+// Update now asks the agent (1030, posted) unless the suite is version 17.
 TEST(UpdatesModel, UpdateNow_SuiteVersionDecides) {
-    const std::wstring kNoKey =
-        L"@@@ Error:open HKEY_LOCAL_MACHINE\\SOFTWARE\\Halvion\\Vantor failed\n";
     const struct {
         const wchar_t* version;  // nullptr: no suite key
         bool posted;
@@ -141,25 +114,26 @@ TEST(UpdatesModel, UpdateNow_SuiteVersionDecides) {
     } cases[] = {
         {L"17.0.1", false, {L"@@@ VNS version is 17.0.1\n", L"@@@ Error:VNS version is 17\n"}},
         {L"16.5", true, {L"@@@ VNS version is 16.5\n"}},
-        {nullptr, true, {kNoKey, L"@@@ Error:get VNS version  failed\n", L"@@@ VNS version is \n"}},
+        {nullptr,
+         true,
+         {L"@@@ Error:open HKEY_LOCAL_MACHINE\\SOFTWARE\\Halvion\\Vantor failed\n",
+          L"@@@ Error:get VNS version  failed\n", L"@@@ VNS version is \n"}},
     };
     for (const auto& each : cases) {
         UpdatesRig rig;
         if (each.version != nullptr) {
-            rig.InstallSuite({{L"version", each.version}});
+            rig.InstallSuite(L"version", each.version);
         }
         rig.Model().UpdateNow();
-        const auto expected = each.posted ? std::vector{rig.Received(1030)}
-                                          : std::vector<Testing::PageRig::Message>{};
-        EXPECT_EQ(rig.AgentReceived(), expected);
+        EXPECT_EQ(rig.AgentReceived().size(), each.posted ? 1u : 0u);
         EXPECT_EQ(rig.log.Lines(), each.log);
     }
 }
 
 TEST(UpdatesModel, Help_OpensTheSuitesHelpFileElseTheAddinsOwn) {
     UpdatesRig rig;
-    ASSERT_TRUE(rig.Model().OpenHelp());
-    rig.InstallSuite({{L"Application Path", L"D:\\Suite\\"}});
+    rig.Model().OpenHelp();
+    rig.InstallSuite(L"Application Path", L"D:\\Suite\\");
     rig.Model().OpenHelp();
     ASSERT_EQ(rig.launcher.Launches().size(), 2u);
     EXPECT_EQ(rig.launcher.Launches()[0].commandLine,
@@ -169,26 +143,16 @@ TEST(UpdatesModel, Help_OpensTheSuitesHelpFileElseTheAddinsOwn) {
 }
 
 TEST(UpdatesDialogKey, AltOPressesOkOnlyWhileEnabled_AltCCancels) {
-    constexpr uint32_t kKeyDown = 0x100, kKeyUp = 0x101, kSysKeyDown = 0x104, kSysChar = 0x106;
-    const struct {
-        uint32_t message;
-        uintptr_t key;
-        bool alt;
-        bool okEnabled;
-        DialogKey expected;
-    } cases[] = {
+    constexpr uint32_t kKeyDown = 0x100, kKeyUp = 0x101, kSysKeyDown = 0x104;
+    const std::tuple<uint32_t, uintptr_t, bool, bool, DialogKey> cases[] = {
         {kSysKeyDown, 'O', true, true, DialogKey::Ok},
-        {kKeyDown, 'o', true, true, DialogKey::Ok},
-        {kSysKeyDown, 'O', true, false, DialogKey::Swallow},
+        {kSysKeyDown, 'o', true, false, DialogKey::Swallow},
         {kSysKeyDown, 'C', true, false, DialogKey::Cancel},
-        {kSysChar, 'o', true, true, DialogKey::Swallow},
         {kKeyUp, 'C', true, true, DialogKey::Swallow},
         {kKeyDown, 'O', false, true, DialogKey::None},
-        {kSysKeyDown, 'X', true, true, DialogKey::None},
     };
-    for (const auto& each : cases) {
-        EXPECT_EQ(UpdatesDialogKey(each.message, each.key, each.alt, each.okEnabled), each.expected)
-            << each.message << " " << char(each.key) << " " << each.okEnabled;
+    for (const auto& [message, key, alt, okEnabled, expected] : cases) {
+        EXPECT_EQ(UpdatesDialogKey(message, key, alt, okEnabled), expected) << message << key;
     }
 }
 

@@ -1,5 +1,5 @@
-// Opens every page of the filtering sheet and the category dialog in the language Windows runs
-// in, and saves each as a BMP file for scripts/screenshots.
+// Opens every page of the filtering sheet, the category dialog and the other dialogs in the
+// language Windows runs in, and saves each as a BMP file for scripts/screenshots.
 //   orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE
 // INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini; LOCALE names the files.
 #include <windows.h>
@@ -8,13 +8,16 @@
 #include <prsht.h>
 
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "common_src/ZelCommon/ProfileApi.h"
+#include "common_src/ZelCommon/RegistryApi.h"
 #include "common_src/platform/Locale.h"
+#include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/WindowMessaging.h"
 #include "plugin/agent/AgentNotices.h"
@@ -32,6 +35,10 @@
 #include "ui/DialogIds.h"
 #include "ui/FeedbackIds.h"
 #include "ui/FilteringSheet_win.h"
+#include "ui/MessageBoxes_win.h"
+#include "ui/PasswordProtector_win.h"
+#include "ui/UpdatesDialog_win.h"
+#include "ui/UpdatesIds.h"
 
 namespace {
 
@@ -95,6 +102,7 @@ public:
                 : 1;
         failures += ShootConfirmation() ? 0 : 1;
         failures += ShootAbout() ? 0 : 1;
+        failures += ShootUpdates() ? 0 : 1;
         return failures;
     }
 
@@ -201,7 +209,7 @@ private:
         Orva::Ui::CAboutDlg about(
             Orva::Ui::ReadAboutContent(page.settings, page.strings, L"",
                                        {ORVA_SCREENS_VERSION, L"screenshots"}),
-            page, ZelCommon::Platform::SystemShellOpen());
+            page, ZelCommon::Platform::SystemShellOpen(), [](HWND) {});
         CModalDriver driver(
             {{"about", [] { return Orva::Testing::FindDialogHolding(IDC_ABOUT_FILE) != nullptr; }},
              Settle(),
@@ -232,6 +240,60 @@ private:
                   return true;
               }}});
         about.RunModal(nullptr);
+        return driver.Finished();
+    }
+
+    // The updates dialog with rules ten days old, and the proxy dialog over it with a proxy set.
+    bool ShootUpdates() {
+        auto& page = m_services->page;
+        using Orva::Settings::SettingId;
+        page.settings.Set(SettingId::EngineVer, L"8.2.1");
+        page.settings.Set(SettingId::PatchVer, L"20261114");
+        page.settings.Set(SettingId::ORVAOEVer, L"1.00.0.0117");
+        page.settings.SetInt(SettingId::LastUpdateTime,
+                             static_cast<int32_t>(std::time(nullptr) - 10 * 86400));
+        page.settings.Set(SettingId::HTTPProxy, L"proxy.example.com");
+        page.settings.SetInt(SettingId::HTTPPort, 8080);
+        page.settings.Set(SettingId::ProxyUserName, L"anna");
+        Orva::Ui::CMessageBoxes boxes;
+        Orva::Ui::CUserPasswordProtector protector;
+        page.settings.Set(SettingId::ProxyPassword,
+                          Orva::Ui::StoredPasswordOf(protector, L"secret").value_or(L""));
+        CModalDriver driver(
+            {{"updates",
+              [] { return Orva::Testing::FindDialogHolding(IDC_UPDATES_NOW) != nullptr; }},
+             Settle(),
+             {"save",
+              [this] {
+                  const HWND dialog = Orva::Testing::FindDialogHolding(IDC_UPDATES_NOW);
+                  Save(dialog, L"updates");
+                  Orva::Testing::Click(::GetDlgItem(dialog, IDC_UPDATES_PROXY));
+                  return true;
+              }},
+             {"proxy",
+              [] { return Orva::Testing::FindDialogHolding(IDC_PROXY_PASSWORD) != nullptr; }},
+             Settle(),
+             {"save proxy",
+              [this] {
+                  const HWND proxy = Orva::Testing::FindDialogHolding(IDC_PROXY_PASSWORD);
+                  Save(proxy, L"proxy-settings");
+                  Orva::Testing::Click(::GetDlgItem(proxy, IDCANCEL));
+                  return true;
+              }},
+             {"close updates", [] {
+                  const HWND dialog = Orva::Testing::FindDialogHolding(IDC_UPDATES_NOW);
+                  if (dialog == nullptr ||
+                      Orva::Testing::FindDialogHolding(IDC_PROXY_PASSWORD) != nullptr) {
+                      return false;
+                  }
+                  Orva::Testing::Click(::GetDlgItem(dialog, IDCANCEL));
+                  return true;
+              }}});
+        Orva::Ui::RunUpdatesDialog(
+            page,
+            {ZelCommon::Storage::SystemRegistryApi(), ZelCommon::Platform::SystemWindowMessaging(),
+             ZelCommon::Platform::SystemProcessLauncher()},
+            L"", {boxes, protector}, nullptr);
         return driver.Finished();
     }
 
