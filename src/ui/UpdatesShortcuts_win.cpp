@@ -1,26 +1,28 @@
 #include "ui/UpdatesShortcuts_win.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "ui/UpdatesModel.h"
 
 namespace Orva::Ui {
 namespace {
 
-// One hook per thread, shared by the dialogs open on it, innermost last.
+// One hook per thread, shared by the dialogs open on it. Plain data only: a thread_local with a
+// destructor would leave a call into this module at thread exit, after the host unloaded it.
+constexpr int kMostNestedDialogs = 8;
 struct ThreadWatch {
-    HHOOK hook = nullptr;
-    std::vector<const CDialogShortcuts*> watchers;
+    HHOOK hook;
+    int count;
+    const CDialogShortcuts* watchers[kMostNestedDialogs];
 };
 thread_local ThreadWatch t_watch;
 
 }  // namespace
 
 CDialogShortcuts::~CDialogShortcuts() {
-    auto& watchers = t_watch.watchers;
-    watchers.erase(std::remove(watchers.begin(), watchers.end(), this), watchers.end());
-    if (watchers.empty() && t_watch.hook != nullptr) {
+    const auto end = std::remove(t_watch.watchers, t_watch.watchers + t_watch.count, this);
+    t_watch.count = static_cast<int>(end - t_watch.watchers);
+    if (t_watch.count == 0 && t_watch.hook != nullptr) {
         ::UnhookWindowsHookEx(t_watch.hook);
         t_watch.hook = nullptr;
     }
@@ -28,9 +30,9 @@ CDialogShortcuts::~CDialogShortcuts() {
 
 void CDialogShortcuts::Watch(HWND dialog) {
     m_dialog = dialog;
-    if (std::find(t_watch.watchers.begin(), t_watch.watchers.end(), this) ==
-        t_watch.watchers.end()) {
-        t_watch.watchers.push_back(this);
+    const auto end = t_watch.watchers + t_watch.count;
+    if (std::find(t_watch.watchers, end, this) == end && t_watch.count < kMostNestedDialogs) {
+        t_watch.watchers[t_watch.count++] = this;
     }
     if (t_watch.hook == nullptr) {
         t_watch.hook = ::SetWindowsHookExW(WH_GETMESSAGE, &Hook, nullptr, ::GetCurrentThreadId());
@@ -40,8 +42,8 @@ void CDialogShortcuts::Watch(HWND dialog) {
 LRESULT CALLBACK CDialogShortcuts::Hook(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && wParam == PM_REMOVE) {
         auto& message = *reinterpret_cast<MSG*>(lParam);
-        for (const CDialogShortcuts* watcher : t_watch.watchers) {
-            if (watcher->OnKey(message)) {
+        for (int at = 0; at < t_watch.count; ++at) {
+            if (t_watch.watchers[at]->OnKey(message)) {
                 message.message = WM_NULL;
                 break;
             }
