@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <optional>
 
 #include "common_src/platform/UniqueAny_win.h"
