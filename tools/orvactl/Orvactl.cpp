@@ -2,6 +2,7 @@
 
 #include "AccountCommand.h"
 #include "CommandErrors.h"
+#include "EncodingsCommand.h"
 #include "IniCommands.h"
 #include "ListsCommand.h"
 #include "SettingsCommand.h"
@@ -57,6 +58,9 @@ constexpr std::wstring_view kSettingsHelp =
 constexpr std::wstring_view kListsHeading =
     L"lists commands (the approved- and blocked-sender list files):\n";
 
+constexpr std::wstring_view kEncodingsHeading =
+    L"encodings commands (the blocked encodings file):\n";
+
 constexpr std::wstring_view kClosingHelp =
     LR"(
   orvactl --help                                 show this text (also after a command)
@@ -81,6 +85,9 @@ std::wstring HelpText() {
     text += L"\n";
     text += kListsHeading;
     text += ListsHelpText();
+    text += L"\n";
+    text += kEncodingsHeading;
+    text += EncodingsHelpText();
     text += L"\n";
     text += AccountHelpText();
     text += kClosingHelp;
@@ -112,6 +119,9 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
     }
     if (args[0] == L"lists") {
         return RunListsCommand(rest, out, err);
+    }
+    if (args[0] == L"encodings") {
+        return RunEncodingsCommand(rest, out, err);
     }
     if (args[0] == L"account") {
         return RunAccountCommand(rest, out, err);

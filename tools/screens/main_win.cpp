@@ -1,7 +1,8 @@
 // Opens every page of the filtering sheet and the category dialog in the language Windows runs
 // in, and saves each as a BMP file for scripts/screenshots.
 //   orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE
-// INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini; LOCALE names the files.
+// INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini and, as an add-in folder does,
+// the default BlockEncodings.dat; LOCALE names the files.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -17,6 +18,8 @@
 #include "common_src/platform/Locale.h"
 #include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/WindowMessaging.h"
+#include "lists/EncodingSet.h"
+#include "lists/SenderLists.h"
 #include "plugin/agent/AgentNotices.h"
 #include "settings/SettingsStore.h"
 #include "settings/localisation/LoaderStrings.h"
@@ -66,7 +69,10 @@ public:
         : m_output(std::move(output)),
           m_locale(std::move(locale)),
           m_shotLocale(m_locale),
-          m_services(MakeServices(installFolder)) {}
+          m_services(MakeServices(installFolder)),
+          m_dataFolder((m_output / L"data").wstring() + L"\\") {
+        PrepareEncodings(installFolder);
+    }
 
     int Run() {
         int failures = 0;
@@ -130,6 +136,16 @@ private:
         return std::make_unique<Services>(Files(), loaderServices);
     }
 
+    // The user's data folder starts with the installation's default groups, two of them ticked.
+    void PrepareEncodings(const std::wstring& installFolder) const {
+        std::filesystem::create_directories(std::filesystem::path(m_dataFolder));
+        Orva::Lists::CEncodingSet encodings;
+        encodings.Load(Orva::Lists::EncodingsPath(installFolder));
+        encodings.SetBlocked(L"Cyrillic", true);
+        encodings.SetBlocked(L"Japanese", true);
+        encodings.Save(Orva::Lists::EncodingsPath(m_dataFolder));
+    }
+
     bool Save(HWND window, const std::wstring& name) {
         const auto file = m_output / (name + L"." + m_locale + L".bmp");
         const bool saved = Orva::Screens::CaptureWindow(window, file.wstring());
@@ -139,7 +155,8 @@ private:
 
     // Opens the sheet on `page`, saves it, runs `more`, and cancels.
     bool Shoot(int page, std::vector<CModalDriver::NamedStep> more) {
-        Orva::Ui::CFilteringSheetModel model(m_services->page, {});
+        Orva::Ui::CFilteringSheetModel model(m_services->page,
+                                             {Files().userFile, m_dataFolder, L"", L""});
         model.SetUp();
         Orva::Ui::CFilteringSheet sheet(model, m_services->page, [](std::wstring_view) {});
         std::vector<CModalDriver::NamedStep> steps = {
@@ -239,6 +256,7 @@ private:
     std::wstring m_locale;
     ShotLocale m_shotLocale;
     std::unique_ptr<Services> m_services;
+    std::wstring m_dataFolder;
 };
 
 }  // namespace
