@@ -11,7 +11,7 @@ struct ControlText {
     std::wstring_view stringId;
 };
 
-// The localised texts of each template of the filtering sheet.
+// The localised texts of each template of the filtering sheet and the statistics dialog.
 std::span<const ControlText> DefaultLevelTexts();
 std::span<const ControlText> CustomLevelTexts();
 std::span<const ControlText> CategoryLevelTexts();
@@ -20,6 +20,8 @@ std::span<const ControlText> AdvancedPageTexts();
 std::span<const ControlText> ApprovedPageTexts();
 std::span<const ControlText> BlockedPageTexts();
 std::span<const ControlText> EncodingsPageTexts();
+// The statistics dialog's texts; its rate controls keep their template's format.
+std::span<const ControlText> StatisticsDialogTexts();
 
 // The three entries of every category's combo box, highest level first.
 std::span<const std::wstring_view> LevelNameIds();

@@ -51,9 +51,9 @@ TEST(ControlTexts, EveryStringIdOfThePages_IsOneTheShippedTablesMustHold) {
     const auto isKnown = [&](std::wstring_view id) {
         return std::find(known.begin(), known.end(), id) != known.end();
     };
-    for (const auto& table :
-         {DefaultLevelTexts(), CustomLevelTexts(), CategoryLevelTexts(), WorryFreeLevelTexts(),
-          AdvancedPageTexts(), ApprovedPageTexts(), BlockedPageTexts(), EncodingsPageTexts()}) {
+    for (const auto& table : {DefaultLevelTexts(), CustomLevelTexts(), CategoryLevelTexts(),
+                              WorryFreeLevelTexts(), AdvancedPageTexts(), ApprovedPageTexts(),
+                              BlockedPageTexts(), EncodingsPageTexts(), StatisticsDialogTexts()}) {
         for (const ControlText& text : table) {
             EXPECT_TRUE(isKnown(text.stringId))
                 << std::string(text.stringId.begin(), text.stringId.end());

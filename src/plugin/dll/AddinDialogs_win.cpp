@@ -2,6 +2,7 @@
 
 #include "settings/localisation/OnlineHelpTopic.h"
 #include "ui/FilteringSheetOpener.h"
+#include "ui/StatisticsDialog_win.h"
 
 namespace Orva::Plugin {
 
@@ -19,6 +20,10 @@ CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
 
 void CAddinDialogs::OpenFilteringSheet() {
     Ui::OpenFilteringSheet(m_services, m_sheetPaths, m_windows, m_mailClient);
+}
+
+void CAddinDialogs::OpenStatistics() {
+    Ui::RunStatisticsDialog(m_services, m_boxes, reinterpret_cast<HWND>(m_mailClient));
 }
 
 void CAddinDialogs::OpenHelpTopic(std::wstring_view topic) {
