@@ -1,5 +1,6 @@
-// Opens every page of the filtering sheet and the category dialog in the language Windows runs
-// in, and saves each as a BMP file for scripts/screenshots.
+// Opens every page of the filtering sheet, the category dialog and the statistics dialog (with
+// its pie, and with its chart disabled by a damaged counter) in the language Windows runs in,
+// and saves each as a BMP file for scripts/screenshots.
 //   orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE
 // INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini; LOCALE names the files.
 #include <windows.h>
@@ -25,6 +26,9 @@
 #include "tools/screens/WindowCapture_win.h"
 #include "ui/DialogIds.h"
 #include "ui/FilteringSheet_win.h"
+#include "ui/MessageBoxes_win.h"
+#include "ui/StatisticsDialog_win.h"
+#include "ui/StatisticsIds.h"
 
 namespace {
 
@@ -86,6 +90,8 @@ public:
                        }}})
                 ? 0
                 : 1;
+        failures += ShootStatistics(L"statistics", L"6") ? 0 : 1;
+        failures += ShootStatistics(L"statistics-disabled", L"-1") ? 0 : 1;
         return failures;
     }
 
@@ -162,6 +168,37 @@ private:
         CModalDriver driver(std::move(steps));
         const std::wstring caption = m_services->strings.LoadShown(L"IDS_STRING_FILTERING_SHEET");
         sheet.RunModal(caption, nullptr);
+        return driver.Finished();
+    }
+
+    // The dialog over counters written into the output folder's user file; no agent runs.
+    bool ShootStatistics(const std::wstring& name, const wchar_t* reportedFP) {
+        const std::wstring file = Files().userFile;
+        const std::pair<const wchar_t*, const wchar_t*> counters[] = {
+            {L"ProcessedMsg", L"1250"},
+            {L"DetectedSpam", L"310"},
+            {L"ReportedSpam", L"42"},
+            {L"ReportedFP", reportedFP},
+            {L"RunningSince", L"1700000000"}};
+        for (const auto& [key, value] : counters) {
+            ::WritePrivateProfileStringW(L"Statistics", key, value, file.c_str());
+        }
+        Orva::Ui::CMessageBoxes boxes;
+        Orva::Ui::CStatisticsModel model(m_services->page, boxes);
+        Orva::Ui::CStatisticsDialog dialog(model, m_services->page);
+        CModalDriver driver({
+            {"statistics",
+             [] { return Orva::Testing::FindDialogHolding(IDC_STAT_CHART) != nullptr; }},
+            Settle(),
+            {"save",
+             [this, name] { return Save(Orva::Testing::FindDialogHolding(IDC_STAT_CHART), name); }},
+            {"close",
+             [] {
+                 Orva::Testing::PostKey(::GetFocus(), VK_ESCAPE);
+                 return true;
+             }},
+        });
+        dialog.RunModal(nullptr);
         return driver.Finished();
     }
 
