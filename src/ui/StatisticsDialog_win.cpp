@@ -1,5 +1,8 @@
 #include "ui/StatisticsDialog_win.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
 #include "ui/Headline.h"
@@ -108,7 +111,8 @@ bool CStatisticsDialog::OnCommand(int id, int code, HWND /*control*/) {
         if (m_model.Reset(reinterpret_cast<ZelCommon::Platform::WindowHandle>(Handle()))) {
             ShowBaseLayoutOrLog();
             ShowFigures();
-            ::InvalidateRect(Handle(), nullptr, TRUE);
+            ::RedrawWindow(Handle(), nullptr, nullptr,
+                           RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
         }
         return true;
     }
