@@ -17,6 +17,8 @@ using ZelCommon::Platform::unique_hpen;
 constexpr int kLegendRowPixels = 20;
 constexpr int kChartFontPoints = 9;
 constexpr int kMarginPixels = 5;
+constexpr int kBoxLeftPixels = 15;
+constexpr int kLabelPixels = 10;
 
 // Puts the context's previous object back when it goes, before the new one is deleted.
 class CSelected {
@@ -59,14 +61,17 @@ void CPieChart::SetSlices(std::vector<CPieSlice> slices, std::wstring errorText)
     m_errorText = std::move(errorText);
 }
 
-// The pie takes the left of the area, as tall as it fits; the legend stands to its right.
+// The legend takes what its longest label needs (half the area at least, for the error text's
+// lines); the pie takes the rest on the left, as tall as it fits.
 void CPieChart::Draw(HDC target, const RECT& area) const {
     const CMemDC memory(target, area);
     const HDC dc = memory.Dc();
     ::FillRect(dc, &area, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;
-    const int diameter = std::max(0, std::min(height - 2 * kMarginPixels, width * 2 / 5));
+    const int legendWidth = std::max(LegendWidth(dc), width / 2);
+    const int diameter =
+        std::max(0, std::min(height - 2 * kMarginPixels, width - 4 * kMarginPixels - legendWidth));
     const int left = area.left + kMarginPixels;
     const int top = area.top + (height - diameter) / 2;
     const int centreX = left + diameter / 2;
@@ -78,8 +83,23 @@ void CPieChart::Draw(HDC target, const RECT& area) const {
         });
     }
     const int rows = static_cast<int>(m_slices.size());
-    DrawLegend(dc, area, left + diameter + 6 * kMarginPixels,
+    DrawLegend(dc, area, left + diameter + 3 * kMarginPixels + kBoxLeftPixels,
                centreY - rows * kLegendRowPixels / 2);
+}
+
+// A row is the colour box from x - 15 to x + 5 and the label from x + 10.
+int CPieChart::LegendWidth(HDC dc) const {
+    const unique_hfont font = ChartFont(dc, L"Arial");
+    const CSelected fontSelected(
+        dc, font ? static_cast<HGDIOBJ>(font.get()) : ::GetCurrentObject(dc, OBJ_FONT));
+    int widest = 0;
+    for (const CPieSlice& slice : m_slices) {
+        SIZE size{};
+        ::GetTextExtentPoint32W(dc, slice.label.c_str(), static_cast<int>(slice.label.size()),
+                                &size);
+        widest = std::max(widest, static_cast<int>(size.cx));
+    }
+    return kBoxLeftPixels + kLabelPixels + widest;
 }
 
 void CPieChart::DrawLegend(HDC dc, const RECT& area, int x, int y) const {
@@ -91,8 +111,10 @@ void CPieChart::DrawLegend(HDC dc, const RECT& area, int x, int y) const {
             dc, font ? static_cast<HGDIOBJ>(font.get()) : ::GetCurrentObject(dc, OBJ_FONT));
         int row = y;
         for (const CPieSlice& slice : m_slices) {
-            DrawFilled(dc, slice.colour, [&] { ::Rectangle(dc, x - 15, row, x + 5, row + 15); });
-            ::TextOutW(dc, x + 10, row, slice.label.c_str(), static_cast<int>(slice.label.size()));
+            DrawFilled(dc, slice.colour,
+                       [&] { ::Rectangle(dc, x - kBoxLeftPixels, row, x + 5, row + 15); });
+            ::TextOutW(dc, x + kLabelPixels, row, slice.label.c_str(),
+                       static_cast<int>(slice.label.size()));
             row += kLegendRowPixels;
         }
     }
@@ -102,7 +124,7 @@ void CPieChart::DrawLegend(HDC dc, const RECT& area, int x, int y) const {
     const unique_hfont font = ChartFont(dc, L"MS Sans Serif");
     const CSelected fontSelected(
         dc, font ? static_cast<HGDIOBJ>(font.get()) : ::GetCurrentObject(dc, OBJ_FONT));
-    RECT text{x + 10, y, area.right - kMarginPixels, area.bottom};
+    RECT text{x + kLabelPixels, y, area.right - kMarginPixels, area.bottom};
     ::DrawTextW(dc, m_errorText.c_str(), static_cast<int>(m_errorText.size()), &text,
                 DT_LEFT | DT_WORDBREAK | DT_NOPREFIX);
 }

@@ -18,6 +18,7 @@ public:
     void Draw(HDC target, const RECT& area) const;
 
 private:
+    int LegendWidth(HDC dc) const;
     void DrawLegend(HDC dc, const RECT& area, int x, int y) const;
 
     std::vector<CPieSlice> m_slices;
