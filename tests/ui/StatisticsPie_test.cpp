@@ -8,16 +8,9 @@ namespace Orva::Ui {
 namespace {
 
 // The chart's pi is a little short of pi, so the sine and cosine fall just short of one and
-// truncate to 999 and 2999 / 4; the vertical component is three quarters of the horizontal.
-TEST(StatisticsPie, RadialPoint_AtQuarterSteps_StartsAtTheTopAndTurnsCounterClockwise) {
-    const std::pair<int32_t, PiePoint> cases[] = {
-        {0, {0, -749}}, {25, {-999, 0}}, {50, {0, 749}}, {75, {999, 0}}, {100, {0, -749}}};
-    for (const auto& [percent, point] : cases) {
-        EXPECT_EQ(RadialPoint(percent), point) << percent;
-    }
-}
-
-TEST(StatisticsPie, Wedges_FromCumulativePercentages_ZeroSkipped_NoneUnlessAHundred) {
+// truncate to 999 and 2999 / 4: 0 points up, 25 left, 50 down, 100 up again.
+TEST(StatisticsPie,
+     Wedges_AtQuarterSteps_CounterClockwiseFromTheTop_ZeroSkipped_NoneUnlessAHundred) {
     const std::vector<CPieSlice> quarters = {
         {25, 1, L"a"}, {0, 2, L"b"}, {25, 3, L"c"}, {50, 4, L"d"}};
     EXPECT_EQ(PieWedges(quarters),
