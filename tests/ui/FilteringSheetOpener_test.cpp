@@ -54,7 +54,7 @@ TEST(ControlTexts, EveryStringIdOfThePages_IsOneTheShippedTablesMustHold) {
     for (const auto& table :
          {DefaultLevelTexts(), CustomLevelTexts(), CategoryLevelTexts(), WorryFreeLevelTexts(),
           AdvancedPageTexts(), ApprovedPageTexts(), BlockedPageTexts(), EncodingsPageTexts(),
-          ConfirmationTexts(), AboutTexts(), FeedbackTexts()}) {
+          ConfirmationTexts(), AboutTexts(), FeedbackTexts(), StatisticsDialogTexts()}) {
         for (const ControlText& text : table) {
             EXPECT_TRUE(isKnown(text.stringId))
                 << std::string(text.stringId.begin(), text.stringId.end());

@@ -7,6 +7,7 @@
 #include "ListsCommand.h"
 #include "SettingsCommand.h"
 #include "SheetCommand.h"
+#include "StatisticsCommand.h"
 #include "StringsCommand.h"
 
 namespace Orva::Orvactl {
@@ -81,6 +82,8 @@ std::wstring HelpText() {
     text += kSettingsHelp;
     text += SheetHelpText();
     text += L"\n";
+    text += StatisticsHelpText();
+    text += L"\n";
     text += StringsHelpText();
     text += L"\n";
     text += kListsHeading;
@@ -116,6 +119,9 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
     }
     if (args[0] == L"sheet") {
         return RunSheetCommand(rest, out, err, api);
+    }
+    if (args[0] == L"statistics") {
+        return RunStatisticsCommand(rest, out, err, api);
     }
     if (args[0] == L"lists") {
         return RunListsCommand(rest, out, err);

@@ -1,5 +1,6 @@
-// Opens every page of the filtering sheet and the category dialog in the language Windows runs
-// in, and saves each as a BMP file for scripts/screenshots.
+// Opens every page of the filtering sheet, the category dialog and the statistics dialog (with
+// its pie, and with its chart disabled by a damaged counter) in the language Windows runs in,
+// and saves each as a BMP file for scripts/screenshots.
 //   orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE
 // INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini and, as an add-in folder does,
 // the default BlockEncodings.dat; LOCALE names the files.
@@ -35,6 +36,9 @@
 #include "ui/DialogIds.h"
 #include "ui/FeedbackIds.h"
 #include "ui/FilteringSheet_win.h"
+#include "ui/MessageBoxes_win.h"
+#include "ui/StatisticsDialog_win.h"
+#include "ui/StatisticsIds.h"
 
 namespace {
 
@@ -101,6 +105,8 @@ public:
                 : 1;
         failures += ShootConfirmation() ? 0 : 1;
         failures += ShootAbout() ? 0 : 1;
+        failures += ShootStatistics(L"statistics", L"6") ? 0 : 1;
+        failures += ShootStatistics(L"statistics-disabled", L"-1") ? 0 : 1;
         return failures;
     }
 
@@ -249,6 +255,37 @@ private:
                   return true;
               }}});
         about.RunModal(nullptr);
+        return driver.Finished();
+    }
+
+    // The dialog over counters written into the output folder's user file; no agent runs.
+    bool ShootStatistics(const std::wstring& name, const wchar_t* reportedFP) {
+        const std::wstring file = Files().userFile;
+        const std::pair<const wchar_t*, const wchar_t*> counters[] = {
+            {L"ProcessedMsg", L"1250"},
+            {L"DetectedSpam", L"310"},
+            {L"ReportedSpam", L"42"},
+            {L"ReportedFP", reportedFP},
+            {L"RunningSince", L"1700000000"}};
+        for (const auto& [key, value] : counters) {
+            ::WritePrivateProfileStringW(L"Statistics", key, value, file.c_str());
+        }
+        Orva::Ui::CMessageBoxes boxes;
+        Orva::Ui::CStatisticsModel model(m_services->page, boxes);
+        Orva::Ui::CStatisticsDialog dialog(model, m_services->page);
+        CModalDriver driver({
+            {"statistics",
+             [] { return Orva::Testing::FindDialogHolding(IDC_STAT_CHART) != nullptr; }},
+            Settle(),
+            {"save",
+             [this, name] { return Save(Orva::Testing::FindDialogHolding(IDC_STAT_CHART), name); }},
+            {"close",
+             [] {
+                 Orva::Testing::PostKey(::GetFocus(), VK_ESCAPE);
+                 return true;
+             }},
+        });
+        dialog.RunModal(nullptr);
         return driver.Finished();
     }
 

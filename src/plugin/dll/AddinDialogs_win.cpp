@@ -5,6 +5,7 @@
 #include "ui/AboutDialog_win.h"
 #include "ui/ConfirmationDialog_win.h"
 #include "ui/FilteringSheetOpener.h"
+#include "ui/StatisticsDialog_win.h"
 
 namespace Orva::Plugin {
 
@@ -37,6 +38,10 @@ bool CAddinDialogs::ShowUnsupportedServerNotice() {
                                 m_services.strings);
     notice.RunModal(reinterpret_cast<HWND>(m_mailClient));
     return notice.DontShowAgain();
+}
+
+void CAddinDialogs::OpenStatistics() {
+    Ui::RunStatisticsDialog(m_services, m_boxes, reinterpret_cast<HWND>(m_mailClient));
 }
 
 void CAddinDialogs::OpenHelpTopic(std::wstring_view topic) {

@@ -11,14 +11,15 @@
 #include "settings/localisation/ZelResourceStringLoader.h"
 #include "settings/log/DebugLog.h"
 #include "ui/FilteringSheetModel.h"
+#include "ui/MessageBoxes_win.h"
 #include "ui/PageServices.h"
 #include "ui/SheetWindows_win.h"
 
 namespace Orva::Plugin {
 
 // The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
-// filtering sheet, the About box and the unsupported-server notice, modal over the mail
-// client's main window.
+// filtering sheet, the statistics dialog, the About box and the unsupported-server notice, modal
+// over the mail client's main window.
 class CAddinDialogs final : public ICommandDialogs {
 public:
     struct Parts {
@@ -36,7 +37,7 @@ public:
     void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) { m_mailClient = window; }
 
     void OpenFilteringSheet() override;
-    void OpenStatistics() override { m_notYetBuilt.OpenStatistics(); }
+    void OpenStatistics() override;
     void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
     void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
@@ -52,6 +53,7 @@ private:
     ZelCommon::Platform::IShellOpen& m_shell;
     ZelCommon::Library::DebugLog& m_log;
     Ui::CSheetWindows m_windows;
+    Ui::CMessageBoxes m_boxes;
     ICommandDialogs& m_notYetBuilt;
     ZelCommon::Platform::WindowHandle m_mailClient = 0;
 };
