@@ -10,52 +10,12 @@ namespace {
 
 using Testing::CModalDriver;
 
-// The loaded add-in with the host's objects and the simulated agent: the Statistics entry of
-// the ribbon opens the dialog, and a driver acts inside its modal loop as the user.
-class StatisticsInAddin : public AddinInWine {
+// The Statistics entry of the ribbon opens the dialog.
+class StatisticsInAddin : public AddinWithRibbon {
 protected:
-    StatisticsInAddin() {
-        std::filesystem::create_directories(LogFolder().parent_path());
-        ::DeleteFileW(userFile.c_str());
-        ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-        init = std::make_unique<RegisteredHostClass<Testing::FakeHostObject>>(
-            L"NktWLMailApiInit.WLMailApiInit", kInitClass);
-        api = std::make_unique<RegisteredHostClass<Testing::FakeRibbonHost>>(
-            L"NktWLMailApi.WLMailApi", kApiClass);
-    }
-    ~StatisticsInAddin() override {
-        if (Controller() != nullptr) {
-            init->object.Fire(2, {});  // shut-down
-            Testing::PumpMessagesUntil([&] { return Controller() == nullptr; });
-        }
-        addin.reset();
-        api.reset();
-        init.reset();
-        ::CoUninitialize();
-        ::DeleteFileW(userFile.c_str());
-    }
-
-    bool StartAddin() {
-        if (!addin || InitializePlugin() != TRUE ||
-            Testing::WaitForWindowTitled(kAgentTitle) == nullptr) {
-            return false;
-        }
-        init->object.Fire(1, {});  // ready
-        return api->object.entries.size() == 5;
-    }
-    // Clicks Statistics and runs `steps` inside the dialog's modal loop.
     std::string RunDialog(std::vector<CModalDriver::NamedStep> steps) {
-        CModalDriver driver(std::move(steps));
-        api->object.entries[1]->Fire(1, {});
-        Testing::PumpMessagesUntil([&] { return driver.Finished() || !driver.Failure().empty(); },
-                                   60000);
-        return driver.Finished() ? std::string() : "stopped at: " + driver.Failure();
+        return RunAfterClick(kStatisticsEntry, std::move(steps));
     }
-    std::string AgentRecord() const { return Testing::ReadFileBytes(record); }
-
-    const std::wstring userFile = (LogFolder().parent_path() / L"ORVA_WLM.ini").wstring();
-    std::unique_ptr<RegisteredHostClass<Testing::FakeHostObject>> init;
-    std::unique_ptr<RegisteredHostClass<Testing::FakeRibbonHost>> api;
 };
 
 std::wstring ItemText(int id) {
