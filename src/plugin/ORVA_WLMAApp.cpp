@@ -1,6 +1,7 @@
 #include "plugin/ORVA_WLMAApp.h"
 
 #include "common_src/win32/MuiResource.h"
+#include "plugin/DefaultEncodings.h"
 #include "settings/DebugLogSwitch.h"
 #include "settings/SettingsStartup.h"
 #include "settings/probes/FileVersionReader.h"
@@ -19,6 +20,8 @@ void CORVA_WLMAApp::InitInstance() {
     Orva::Settings::CreateSettingsFolders(m_parts.paths);
     // Before the agent's launch, so that a launch that fails is in the log file.
     Orva::Settings::SwitchOnDebugLog(m_parts.settings, m_parts.paths.logFolder, m_parts.log);
+    // Before the agent starts, so that it finds the encoding groups from its start.
+    CopyDefaultEncodings(m_parts.paths.addinFolder, m_parts.paths.userFolder, m_parts.log);
 
     m_parts.agent.LaunchShadow();
     m_mui = ZelCommon::Win32::LoadMuiResource(

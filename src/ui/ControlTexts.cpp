@@ -4,6 +4,7 @@
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
 #include "ui/FeedbackIds.h"
+#include "ui/StatisticsIds.h"
 #include "ui/UpdatesIds.h"
 
 namespace Orva::Ui {
@@ -94,6 +95,22 @@ constexpr ControlText kFeedback[] = {
     {2 /* IDCANCEL */, L"IDS_CANCEL"},
 };
 
+constexpr ControlText kStatisticsDialog[] = {
+    {IDC_STAT_TITLE, L"IDS_STAT_TITLE"},
+    {IDC_STAT_SINCE_LABEL, L"IDS_STAT_SINCE"},
+    {IDC_STAT_MESSAGES_TITLE, L"IDS_STAT_MESSAGES_TITLE"},
+    {IDC_STAT_PROCESSED_LABEL, L"IDS_STAT_PROCESSED"},
+    {IDC_STAT_DETECTED_LABEL, L"IDS_STAT_DETECTED"},
+    {IDC_STAT_REPORTED_LABEL, L"IDS_STAT_REPORTED"},
+    {IDC_STAT_REPORTED_FP_LABEL, L"IDS_STAT_REPORTED_FP"},
+    {IDC_STAT_RATES_TITLE, L"IDS_STAT_RATES_TITLE"},
+    {IDC_STAT_DETECTION_RATE_LABEL, L"IDS_STAT_DETECTION_RATE"},
+    {IDC_STAT_FP_RATE_LABEL, L"IDS_STAT_FP_RATE"},
+    {IDC_STAT_CHART_TITLE, L"IDS_STAT_CHART_TITLE"},
+    {IDC_STAT_RESET, L"IDS_STAT_RESET"},
+    {1 /* IDOK */, L"IDS_OK"},
+};
+
 constexpr ControlText kUpdates[] = {
     {IDC_UPDATES_GROUP, L"IDS_UPDATES_GROUP"},
     {IDC_UPDATES_ENGINE_LABEL, L"IDS_ABOUT_ENGINE_VERSION"},
@@ -170,6 +187,9 @@ std::span<const ControlText> AboutTexts() {
 }
 std::span<const ControlText> FeedbackTexts() {
     return kFeedback;
+}
+std::span<const ControlText> StatisticsDialogTexts() {
+    return kStatisticsDialog;
 }
 std::span<const ControlText> UpdatesTexts() {
     return kUpdates;

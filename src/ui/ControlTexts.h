@@ -11,7 +11,7 @@ struct ControlText {
     std::wstring_view stringId;
 };
 
-// The localised texts of each template of the filtering sheet.
+// The localised texts of each template of the dialogs.
 std::span<const ControlText> DefaultLevelTexts();
 std::span<const ControlText> CustomLevelTexts();
 std::span<const ControlText> CategoryLevelTexts();
@@ -23,6 +23,8 @@ std::span<const ControlText> EncodingsPageTexts();
 std::span<const ControlText> ConfirmationTexts();
 std::span<const ControlText> AboutTexts();
 std::span<const ControlText> FeedbackTexts();
+// The statistics dialog's texts; its rate controls keep their template's format.
+std::span<const ControlText> StatisticsDialogTexts();
 std::span<const ControlText> UpdatesTexts();
 std::span<const ControlText> ProxyTexts();
 

@@ -53,6 +53,7 @@ CFilteringSheetModel::CFilteringSheetModel(PageServices& services, SheetPaths pa
     : m_paths(std::move(paths)),
       m_spamDetection(services),
       m_linkFilter(services),
+      m_encodings(services, m_paths.dataFolder),
       m_advanced(services) {}
 
 void CFilteringSheetModel::SetUp() {
@@ -63,6 +64,7 @@ void CFilteringSheetModel::SetUp() {
 void CFilteringSheetModel::ApplyAll() {
     m_spamDetection.Apply();
     m_linkFilter.Apply();
+    m_encodings.Apply();
     m_advanced.Apply();
 }
 

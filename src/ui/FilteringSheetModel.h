@@ -7,6 +7,7 @@
 #include "lists/ListFileStatus.h"
 #include "lists/SenderListSet.h"
 #include "ui/AdvancedPageModel.h"
+#include "ui/BlockEncodingPageModel.h"
 #include "ui/LinkFilterPageModel.h"
 #include "ui/PageServices.h"
 #include "ui/SpamDetectionPageModel.h"
@@ -72,6 +73,7 @@ public:
 
     CSpamDetectionPageModel& SpamDetection() { return m_spamDetection; }
     CLinkFilterPageModel& LinkFilter() { return m_linkFilter; }
+    CBlockEncodingPageModel& Encodings() { return m_encodings; }
     CAdvancedPageModel& Advanced() { return m_advanced; }
     Lists::CWListSet& Approved() { return m_approved; }
     Lists::CBListSet& Blocked() { return m_blocked; }
@@ -88,6 +90,7 @@ private:
     SheetPaths m_paths;
     CSpamDetectionPageModel m_spamDetection;
     CLinkFilterPageModel m_linkFilter;
+    CBlockEncodingPageModel m_encodings;
     CAdvancedPageModel m_advanced;
     Lists::CWListSet m_approved;
     Lists::CBListSet m_blocked;

@@ -17,7 +17,6 @@ constexpr UINT_PTR kSubclassId = 1;
 constexpr int kTabItemHeight = 22;
 
 constexpr std::wstring_view kSenderColumns[] = {L"IDS_HEADER_ADDR", L"IDS_HEADER_SENDERNAME"};
-constexpr std::wstring_view kEncodingColumns[] = {L"IDS_HEADER_ENCODINGS"};
 
 // The sheet being opened on this thread: the sheet's callback carries no pointer of its own.
 thread_local CFilteringSheet* t_opening = nullptr;
@@ -51,7 +50,7 @@ CFilteringSheet::CFilteringSheet(CFilteringSheetModel& model, PageServices& serv
       m_linkFilter(model.LinkFilter(), services),
       m_approved(IDD_APPROVE_SENDER_PAGE, ApprovedPageTexts(), kSenderColumns, services),
       m_blocked(IDD_BLOCK_SENDER_PAGE, BlockedPageTexts(), kSenderColumns, services),
-      m_encodings(IDD_BLOCK_ENCODING_PAGE, EncodingsPageTexts(), kEncodingColumns, services),
+      m_encodings(model.Encodings(), services),
       m_advanced(model.Advanced(), services) {
     // The pages' list views and the tooltips are common controls.
     INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES |

@@ -8,6 +8,7 @@
 
 #include "common_src/platform/UniqueAny_win.h"
 #include "ui/AdvancedPage_win.h"
+#include "ui/BlockEncodingPage_win.h"
 #include "ui/DrawTabCtrl_win.h"
 #include "ui/FilteringSheetModel.h"
 #include "ui/LinkFilterPage_win.h"
@@ -56,7 +57,7 @@ private:
     CLinkFilter m_linkFilter;
     CListPage m_approved;
     CListPage m_blocked;
-    CListPage m_encodings;
+    CBlockEncodingPage m_encodings;
     CAdvancedPage m_advanced;
     CDrawTabCtrl m_tabs;
     ATOM m_ownerClass = 0;

@@ -13,8 +13,8 @@
 
 namespace Orva::Ui {
 
-// A page of the sheet around one list view: the approved and blocked senders and the blocked
-// encodings. For now it shows its headline, its note and the list's drawn columns.
+// A page of the sheet around one list view: the approved and blocked senders. For now it shows
+// its headline, its note and the list's drawn columns.
 class CListPage final : public CPropertyPage {
 public:
     CListPage(int templateId, std::span<const ControlText> texts,

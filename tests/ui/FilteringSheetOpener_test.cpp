@@ -54,7 +54,8 @@ TEST(ControlTexts, EveryStringIdOfThePages_IsOneTheShippedTablesMustHold) {
     for (const auto& table :
          {DefaultLevelTexts(), CustomLevelTexts(), CategoryLevelTexts(), WorryFreeLevelTexts(),
           AdvancedPageTexts(), ApprovedPageTexts(), BlockedPageTexts(), EncodingsPageTexts(),
-          ConfirmationTexts(), AboutTexts(), FeedbackTexts(), UpdatesTexts(), ProxyTexts()}) {
+          ConfirmationTexts(), AboutTexts(), FeedbackTexts(), StatisticsDialogTexts(),
+          UpdatesTexts(), ProxyTexts()}) {
         for (const ControlText& text : table) {
             EXPECT_TRUE(isKnown(text.stringId))
                 << std::string(text.stringId.begin(), text.stringId.end());

@@ -2,10 +2,12 @@
 
 #include "AccountCommand.h"
 #include "CommandErrors.h"
+#include "EncodingsCommand.h"
 #include "IniCommands.h"
 #include "ListsCommand.h"
 #include "SettingsCommand.h"
 #include "SheetCommand.h"
+#include "StatisticsCommand.h"
 #include "StringsCommand.h"
 
 namespace Orva::Orvactl {
@@ -57,6 +59,9 @@ constexpr std::wstring_view kSettingsHelp =
 constexpr std::wstring_view kListsHeading =
     L"lists commands (the approved- and blocked-sender list files):\n";
 
+constexpr std::wstring_view kEncodingsHeading =
+    L"encodings commands (the blocked encodings file):\n";
+
 constexpr std::wstring_view kClosingHelp =
     LR"(
   orvactl --help                                 show this text (also after a command)
@@ -77,10 +82,15 @@ std::wstring HelpText() {
     text += kSettingsHelp;
     text += SheetHelpText();
     text += L"\n";
+    text += StatisticsHelpText();
+    text += L"\n";
     text += StringsHelpText();
     text += L"\n";
     text += kListsHeading;
     text += ListsHelpText();
+    text += L"\n";
+    text += kEncodingsHeading;
+    text += EncodingsHelpText();
     text += L"\n";
     text += AccountHelpText();
     text += kClosingHelp;
@@ -110,8 +120,14 @@ int RunOrvactl(const std::vector<std::wstring>& args, ITextSink& out, ITextSink&
     if (args[0] == L"sheet") {
         return RunSheetCommand(rest, out, err, api);
     }
+    if (args[0] == L"statistics") {
+        return RunStatisticsCommand(rest, out, err, api);
+    }
     if (args[0] == L"lists") {
         return RunListsCommand(rest, out, err);
+    }
+    if (args[0] == L"encodings") {
+        return RunEncodingsCommand(rest, out, err);
     }
     if (args[0] == L"account") {
         return RunAccountCommand(rest, out, err);

@@ -1,7 +1,9 @@
-// Opens every page of the filtering sheet, the category dialog and the other dialogs in the
-// language Windows runs in, and saves each as a BMP file for scripts/screenshots.
+// Opens every page of the filtering sheet, the category dialog, the statistics dialog (with its
+// pie, and with its chart disabled by a damaged counter), the About box and the updates and proxy
+// dialogs in the language Windows runs in, and saves each as a BMP file for scripts/screenshots.
 //   orva_screens OUTPUT_FOLDER INSTALL_FOLDER LOCALE
-// INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini; LOCALE names the files.
+// INSTALL_FOLDER holds ORVA\Resource\x86\<locale>\StringTable.ini and, as an add-in folder does,
+// the default BlockEncodings.dat; LOCALE names the files.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -20,6 +22,8 @@
 #include "common_src/platform/ProcessLauncher.h"
 #include "common_src/platform/ShellOpen.h"
 #include "common_src/platform/WindowMessaging.h"
+#include "lists/EncodingSet.h"
+#include "lists/SenderLists.h"
 #include "plugin/agent/AgentNotices.h"
 #include "settings/SettingsStore.h"
 #include "settings/localisation/LoaderStrings.h"
@@ -37,6 +41,8 @@
 #include "ui/FilteringSheet_win.h"
 #include "ui/MessageBoxes_win.h"
 #include "ui/PasswordProtector_win.h"
+#include "ui/StatisticsDialog_win.h"
+#include "ui/StatisticsIds.h"
 #include "ui/UpdatesDialog_win.h"
 #include "ui/UpdatesIds.h"
 
@@ -73,7 +79,10 @@ public:
         : m_output(std::move(output)),
           m_locale(std::move(locale)),
           m_shotLocale(m_locale),
-          m_services(MakeServices(installFolder)) {}
+          m_services(MakeServices(installFolder)),
+          m_dataFolder((m_output / L"data").wstring() + L"\\") {
+        PrepareEncodings(installFolder);
+    }
 
     int Run() {
         int failures = 0;
@@ -102,6 +111,8 @@ public:
                 : 1;
         failures += ShootConfirmation() ? 0 : 1;
         failures += ShootAbout() ? 0 : 1;
+        failures += ShootStatistics(L"statistics", L"6") ? 0 : 1;
+        failures += ShootStatistics(L"statistics-disabled", L"-1") ? 0 : 1;
         failures += ShootUpdates() ? 0 : 1;
         return failures;
     }
@@ -138,6 +149,16 @@ private:
         return std::make_unique<Services>(Files(), loaderServices);
     }
 
+    // The user's data folder starts with the installation's default groups, two of them ticked.
+    void PrepareEncodings(const std::wstring& installFolder) const {
+        std::filesystem::create_directories(std::filesystem::path(m_dataFolder));
+        Orva::Lists::CEncodingSet encodings;
+        encodings.Load(Orva::Lists::EncodingsPath(installFolder));
+        encodings.SetBlocked(L"Cyrillic", true);
+        encodings.SetBlocked(L"Japanese", true);
+        encodings.Save(Orva::Lists::EncodingsPath(m_dataFolder));
+    }
+
     bool Save(HWND window, const std::wstring& name) {
         const auto file = m_output / (name + L"." + m_locale + L".bmp");
         const bool saved = Orva::Screens::CaptureWindow(window, file.wstring());
@@ -147,7 +168,8 @@ private:
 
     // Opens the sheet on `page`, saves it, runs `more`, and cancels.
     bool Shoot(int page, std::vector<CModalDriver::NamedStep> more) {
-        Orva::Ui::CFilteringSheetModel model(m_services->page, {});
+        Orva::Ui::CFilteringSheetModel model(m_services->page,
+                                             {Files().userFile, m_dataFolder, L"", L""});
         model.SetUp();
         Orva::Ui::CFilteringSheet sheet(model, m_services->page, [](std::wstring_view) {});
         std::vector<CModalDriver::NamedStep> steps = {
@@ -297,10 +319,42 @@ private:
         return driver.Finished();
     }
 
+    // The dialog over counters written into the output folder's user file; no agent runs.
+    bool ShootStatistics(const std::wstring& name, const wchar_t* reportedFP) {
+        const std::wstring file = Files().userFile;
+        const std::pair<const wchar_t*, const wchar_t*> counters[] = {
+            {L"ProcessedMsg", L"1250"},
+            {L"DetectedSpam", L"310"},
+            {L"ReportedSpam", L"42"},
+            {L"ReportedFP", reportedFP},
+            {L"RunningSince", L"1700000000"}};
+        for (const auto& [key, value] : counters) {
+            ::WritePrivateProfileStringW(L"Statistics", key, value, file.c_str());
+        }
+        Orva::Ui::CMessageBoxes boxes;
+        Orva::Ui::CStatisticsModel model(m_services->page, boxes);
+        Orva::Ui::CStatisticsDialog dialog(model, m_services->page);
+        CModalDriver driver({
+            {"statistics",
+             [] { return Orva::Testing::FindDialogHolding(IDC_STAT_CHART) != nullptr; }},
+            Settle(),
+            {"save",
+             [this, name] { return Save(Orva::Testing::FindDialogHolding(IDC_STAT_CHART), name); }},
+            {"close",
+             [] {
+                 Orva::Testing::PostKey(::GetFocus(), VK_ESCAPE);
+                 return true;
+             }},
+        });
+        dialog.RunModal(nullptr);
+        return driver.Finished();
+    }
+
     std::filesystem::path m_output;
     std::wstring m_locale;
     ShotLocale m_shotLocale;
     std::unique_ptr<Services> m_services;
+    std::wstring m_dataFolder;
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "ui/AboutDialog_win.h"
 #include "ui/ConfirmationDialog_win.h"
 #include "ui/FilteringSheetOpener.h"
+#include "ui/StatisticsDialog_win.h"
 #include "ui/UpdatesDialog_win.h"
 
 namespace Orva::Plugin {
@@ -43,6 +44,10 @@ bool CAddinDialogs::ShowUnsupportedServerNotice() {
                                 m_services.strings);
     notice.RunModal(reinterpret_cast<HWND>(m_mailClient));
     return notice.DontShowAgain();
+}
+
+void CAddinDialogs::OpenStatistics() {
+    Ui::RunStatisticsDialog(m_services, m_boxes, reinterpret_cast<HWND>(m_mailClient));
 }
 
 void CAddinDialogs::RunUpdates(ZelCommon::Platform::WindowHandle owner) {

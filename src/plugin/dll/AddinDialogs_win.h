@@ -19,8 +19,8 @@
 namespace Orva::Plugin {
 
 // The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
-// filtering sheet, the About box and the unsupported-server notice, modal over the mail
-// client's main window, and the updates dialog, which the About box opens.
+// filtering sheet, the statistics dialog, the About box and the unsupported-server notice, modal
+// over the mail client's main window, and the updates dialog, which the About box opens.
 class CAddinDialogs final : public ICommandDialogs {
 public:
     struct Parts {
@@ -38,7 +38,7 @@ public:
     void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) { m_mailClient = window; }
 
     void OpenFilteringSheet() override;
-    void OpenStatistics() override { m_notYetBuilt.OpenStatistics(); }
+    void OpenStatistics() override;
     void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
     void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
@@ -57,9 +57,9 @@ private:
     ZelCommon::Platform::IShellOpen& m_shell;
     ZelCommon::Platform::IWindowMessaging& m_messaging;
     ZelCommon::Library::DebugLog& m_log;
-    Ui::CMessageBoxes m_boxes;
     Ui::CUserPasswordProtector m_protector;
     Ui::CSheetWindows m_windows;
+    Ui::CMessageBoxes m_boxes;
     ICommandDialogs& m_notYetBuilt;
     ZelCommon::Platform::WindowHandle m_mailClient = 0;
 };

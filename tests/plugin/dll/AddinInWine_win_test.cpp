@@ -96,8 +96,8 @@ TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {
         EXPECT_TRUE(LogShows("dump button ID: 500, 501, 503, 504, 505, 506, 507, 508, 510"))
             << LogText();
         ASSERT_EQ(api.object.entries.size(), 5u);
-        EXPECT_EQ(api.object.entries[1]->Fire(1, {}), S_OK);  // statistics
-        EXPECT_TRUE(LogShows("### The statistics dialog is not part of this build yet"));
+        EXPECT_EQ(api.object.entries[3]->Fire(1, {}), S_OK);  // help
+        EXPECT_TRUE(LogShows("@@@ Error : Can't retrieve on-line help URL from registry."));
 
         EXPECT_EQ(apiEvents.Fire(3, {Testing::Int64Arg(0x100000002)}), S_OK);
         EXPECT_TRUE(

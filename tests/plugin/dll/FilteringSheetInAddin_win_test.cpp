@@ -124,6 +124,44 @@ TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTh
     })) << AgentRecord();
 }
 
+// A space on the focused row toggles its check box as a click on the box does; OK writes that
+// group blocked, line 2 and the other groups as they were, and tells the agent.
+TEST_F(FilteringSheetInAddin, SpaceOnAnEncodingRowThenOk_GroupBlockedAndAgentTold) {
+    const std::string head = "\xEF\xBB\xBF; Written by ORVA v3.5 (c) 2005 Halvion\n3\n";
+    const auto encodings = LogFolder().parent_path() / L"BlockEncodings.dat";
+    Testing::WriteFileBytes(encodings, head + "Arabic\t1\t708\nGreek\t0\t737\nThai\t0\t874\n");
+    ASSERT_TRUE(StartAddin()) << LogText();
+
+    const std::string stopped = RunSheet({
+        OnControl(sheet, "sheet open", IDC_LEVEL_SLIDER, [](HWND) {}),
+        ShowPage(sheet, 4),
+        OnControl(sheet, "space on Greek", IDC_LIST_VIEW,
+                  [](HWND list) {
+                      ::SetFocus(list);
+                      ListView_SetItemState(list, 1, LVIS_SELECTED | LVIS_FOCUSED,
+                                            LVIS_SELECTED | LVIS_FOCUSED);
+                      Testing::PostKey(list, VK_SPACE);
+                  }),
+        {"OK once ticked",
+         [this] {
+             if (!ListView_GetCheckState(FindDescendant(sheet, IDC_LIST_VIEW), 1)) {
+                 return false;
+             }
+             Testing::Click(::GetDlgItem(sheet, IDOK));
+             return true;
+         }},
+    });
+
+    EXPECT_EQ(stopped, "");
+    EXPECT_TRUE(Testing::PumpMessagesUntil([] { return Testing::FindPropertySheet() == nullptr; }));
+    EXPECT_EQ(Testing::ReadFileBytes(encodings),
+              head + "Arabic\t1\t708\nGreek\t1\t737\nThai\t0\t874\n");
+    EXPECT_TRUE(Testing::PumpMessagesUntil([&] {
+        return AgentRecord().find("posted 1034 0 0") != std::string::npos;
+    })) << AgentRecord();
+    std::filesystem::remove(encodings);
+}
+
 TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
     ASSERT_TRUE(StartAddin()) << LogText();
     ZelCommon::Platform::unique_hwnd suite;

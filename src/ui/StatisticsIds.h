@@ -1,0 +1,26 @@
+// The statistics dialog's template and controls. Read by windres as well as by the compiler, so
+// it holds plain #defines only.
+#pragma once
+
+#define IDD_STATISTICS 6330
+
+#define IDC_STAT_TITLE 6092
+#define IDC_STAT_SINCE_LABEL 6331
+#define IDC_STAT_SINCE 6332
+#define IDC_STAT_MESSAGES_TITLE 6333
+#define IDC_STAT_PROCESSED_LABEL 6334
+#define IDC_STAT_PROCESSED 6335
+#define IDC_STAT_DETECTED_LABEL 6336
+#define IDC_STAT_DETECTED 6337
+#define IDC_STAT_REPORTED_LABEL 6338
+#define IDC_STAT_REPORTED 6339
+#define IDC_STAT_REPORTED_FP_LABEL 6340
+#define IDC_STAT_REPORTED_FP 6341
+#define IDC_STAT_RATES_TITLE 6342
+#define IDC_STAT_DETECTION_RATE_LABEL 6343
+#define IDC_STAT_DETECTION_RATE 6344
+#define IDC_STAT_FP_RATE_LABEL 6345
+#define IDC_STAT_FP_RATE 6346
+#define IDC_STAT_CHART_TITLE 6347
+#define IDC_STAT_CHART 6348
+#define IDC_STAT_RESET 6349
