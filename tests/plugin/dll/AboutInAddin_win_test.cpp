@@ -2,6 +2,7 @@
 
 #include "plugin/dll/AddinRig_win.h"
 #include "ui/AboutIds.h"
+#include "ui/FeedbackIds.h"
 
 namespace Orva::Plugin {
 namespace {
@@ -55,6 +56,51 @@ TEST_F(AboutInAddin, AboutEntry_ShowsTheModulesVersionAndClosesOnlyWhenTheSuiteI
     EXPECT_FALSE(::IsWindow(about));
     EXPECT_EQ(fileVersion, L"1.0.0.0");
     EXPECT_NE(privateBuild, L"");
+}
+
+// The About box's Feedback Programme button: the user says No and OK, and the choice is kept.
+TEST_F(AboutInAddin, FeedbackProgramme_NoAndOkKeepsTheUserOut) {
+    ASSERT_TRUE(StartAddin()) << LogText();
+    wchar_t shownBefore[8] = {};
+
+    const std::string stopped = RunAfterClick(
+        kAboutEntry,
+        {
+            {"about box",
+             [] {
+                 const HWND about = Testing::FindDialogHolding(IDC_ABOUT_FEEDBACK);
+                 if (about != nullptr) {
+                     Testing::Click(::GetDlgItem(about, IDC_ABOUT_FEEDBACK));
+                 }
+                 return about != nullptr;
+             }},
+            {"feedback dialog",
+             [&] {
+                 const HWND feedback = Testing::FindDialogHolding(IDC_FEEDBACK_NO);
+                 if (feedback == nullptr) {
+                     return false;
+                 }
+                 shownBefore[0] = ::IsDlgButtonChecked(feedback, IDC_FEEDBACK_YES) ? L'Y' : L'N';
+                 Testing::Click(::GetDlgItem(feedback, IDC_FEEDBACK_NO));
+                 Testing::Click(::GetDlgItem(feedback, IDOK));
+                 return true;
+             }},
+            {"about box again",
+             [] {
+                 const HWND about = Testing::FindDialogHolding(IDC_ABOUT_FEEDBACK);
+                 if (about == nullptr || Testing::FindDialogHolding(IDC_FEEDBACK_NO) != nullptr) {
+                     return false;
+                 }
+                 Testing::Click(::GetDlgItem(about, IDOK));
+                 return true;
+             }},
+        });
+
+    EXPECT_EQ(stopped, "");
+    EXPECT_EQ(std::wstring(shownBefore), L"Y");  // a new user takes part
+    wchar_t stored[8] = {};
+    ::GetPrivateProfileStringW(L"Statistics", L"EnableWTC", L"", stored, 8, userFile.c_str());
+    EXPECT_EQ(std::wstring(stored), L"0");
 }
 
 }  // namespace
