@@ -21,8 +21,8 @@ void ExpandHeadline(HWND panel, int id, PageServices& services) {
 ZelCommon::Platform::unique_hfont HeadlineFontFor(HWND panel, PageServices& services,
                                                   std::wstring_view faceId,
                                                   std::wstring_view sizeId) {
-    const FontSpec spec = HeadlineFont(services.strings, faceId, sizeId);
-    return CreateHeadlineFont(panel, spec.face, spec.points);
+    const FontSpec font = HeadlineFont(services.strings, faceId, sizeId);
+    return CreateHeadlineFont(panel, font.face, font.points);
 }
 
 }  // namespace
