@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -41,6 +42,22 @@ public:
 class NoDebugger final : public ZelCommon::Platform::IDebuggerOutput {
 public:
     void Write(const std::wstring&) override {}
+};
+
+// Nobody at the screen: every box and dialog is cancelled, and no contact is imported.
+class NoUser final : public Orva::Ui::IMessageBoxes,
+                     public Orva::Ui::IEditSenderDialog,
+                     public Orva::Ui::IContactImport {
+public:
+    Orva::Ui::BoxAnswer Show(WindowHandle, const std::wstring&, const std::wstring&,
+                             uint32_t) override {
+        return Orva::Ui::BoxAnswer::Cancel;
+    }
+    std::optional<Orva::Ui::SenderFields> Run(WindowHandle, const std::wstring&,
+                                              const Orva::Ui::SenderFields&) override {
+        return std::nullopt;
+    }
+    void RunContactImport(WindowHandle) override {}
 };
 
 template <class Set>
@@ -117,10 +134,11 @@ void BM_SheetOpen(benchmark::State& state) {
     ZelCommon::Library::DebugLog log(ZelCommon::Platform::SystemClock(),
                                      ZelCommon::Platform::SystemProcessContext(), debugger);
     Orva::Ui::PageServices services{settings, agent, strings, log};
+    NoUser user;
     std::size_t entries = 0;
     for (auto _ : state) {
         Orva::Ui::CFilteringSheetModel sheet(
-            services, {folder.Settings(), folder.Data(), folder.Data(), L""});
+            services, {folder.Settings(), folder.Data(), folder.Data(), L""}, {user, user, user});
         sheet.SetUp();
         sheet.SpamDetection().Load();
         sheet.LinkFilter().Load();
@@ -133,5 +151,34 @@ void BM_SheetOpen(benchmark::State& state) {
     state.counters["entries"] = static_cast<double>(entries);
 }
 BENCHMARK(BM_SheetOpen)->Unit(benchmark::kMillisecond);
+
+// The approved page's first showing over a full list: the lists read, the page's texts and
+// settings, and its rows sorted by name, ready for the list view.
+void BM_ApprovedPageOpen(benchmark::State& state) {
+    const FullDataFolder folder;
+    Orva::Settings::SettingsStore settings(ZelCommon::Storage::SystemProfileApi(),
+                                           {folder.Install(), folder.Settings(), L"", false});
+    NoWindows windows;
+    Orva::Plugin::CAgentNotices agent(windows);
+    NoStrings strings;
+    NoDebugger debugger;
+    ZelCommon::Library::DebugLog log(ZelCommon::Platform::SystemClock(),
+                                     ZelCommon::Platform::SystemProcessContext(), debugger);
+    Orva::Ui::PageServices services{settings, agent, strings, log};
+    NoUser user;
+    std::size_t rows = 0;
+    for (auto _ : state) {
+        Orva::Ui::CFilteringSheetModel sheet(
+            services, {folder.Settings(), folder.Data(), folder.Data(), L""}, {user, user, user});
+        sheet.SetUp();
+        Orva::Ui::CSenderPageModel& page = sheet.ApprovedSenders();
+        page.Load(0);
+        page.Rows().SortBy(Orva::Ui::SortColumn::Name);
+        rows = page.Rows().Count();
+        benchmark::DoNotOptimize(page.Rows().At(rows / 2));
+    }
+    state.counters["rows"] = static_cast<double>(rows);
+}
+BENCHMARK(BM_ApprovedPageOpen)->Unit(benchmark::kMillisecond);
 
 }  // namespace

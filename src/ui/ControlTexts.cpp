@@ -61,11 +61,26 @@ constexpr ControlText kAdvancedPage[] = {
 constexpr ControlText kApprovedPage[] = {
     {IDC_LIST_TITLE, L"IDS_PAGE_APPROVED"},
     {IDC_LIST_NOTE, L"IDS_APPROVED_NOTE"},
+    {IDC_BUTTON_ADD_SENDER, L"IDS_BUTTON_ADD_SENDER"},
+    {IDC_BUTTON_EDIT_SENDER, L"IDS_BUTTON_EDIT_SENDER"},
+    {IDC_BUTTON_REMOVE_SENDER, L"IDS_BUTTON_REMOVE_SENDER"},
+    {IDC_BUTTON_IMPORT_CONTACTS, L"IDS_BUTTON_IMPORT_CONTACTS"},
+    {IDC_CHECK_AUTO_APPROVE, L"IDS_CHECK_AUTO_APPROVE"},
 };
 
 constexpr ControlText kBlockedPage[] = {
     {IDC_LIST_TITLE, L"IDS_PAGE_BLOCKED"},
     {IDC_LIST_NOTE, L"IDS_BLOCKED_NOTE"},
+    {IDC_BUTTON_ADD_SENDER, L"IDS_BUTTON_ADD_SENDER"},
+    {IDC_BUTTON_EDIT_SENDER, L"IDS_BUTTON_EDIT_SENDER"},
+    {IDC_BUTTON_REMOVE_SENDER, L"IDS_BUTTON_REMOVE_SENDER"},
+};
+
+constexpr ControlText kEditSender[] = {
+    {IDC_LABEL_SENDER_NAME, L"IDS_LABEL_SENDER_NAME"},
+    {IDC_LABEL_SENDER_ADDRESS, L"IDS_LABEL_SENDER_ADDRESS"},
+    {1 /* IDOK */, L"IDS_OK"},
+    {2 /* IDCANCEL */, L"IDS_CANCEL"},
 };
 
 constexpr ControlText kEncodingsPage[] = {
@@ -175,6 +190,9 @@ std::span<const ControlText> ApprovedPageTexts() {
 }
 std::span<const ControlText> BlockedPageTexts() {
     return kBlockedPage;
+}
+std::span<const ControlText> EditSenderTexts() {
+    return kEditSender;
 }
 std::span<const ControlText> EncodingsPageTexts() {
     return kEncodingsPage;

@@ -19,6 +19,7 @@ std::span<const ControlText> WorryFreeLevelTexts();
 std::span<const ControlText> AdvancedPageTexts();
 std::span<const ControlText> ApprovedPageTexts();
 std::span<const ControlText> BlockedPageTexts();
+std::span<const ControlText> EditSenderTexts();
 std::span<const ControlText> EncodingsPageTexts();
 std::span<const ControlText> ConfirmationTexts();
 std::span<const ControlText> AboutTexts();

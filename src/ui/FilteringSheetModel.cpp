@@ -49,21 +49,29 @@ SheetButtons PlaceSheetButtons(int clientWidth, SheetButtons current) {
     return current;
 }
 
-CFilteringSheetModel::CFilteringSheetModel(PageServices& services, SheetPaths paths)
+CFilteringSheetModel::CFilteringSheetModel(PageServices& services, SheetPaths paths,
+                                           SenderPagePorts senderPorts)
     : m_paths(std::move(paths)),
       m_spamDetection(services),
       m_linkFilter(services),
       m_encodings(services, m_paths.dataFolder),
-      m_advanced(services) {}
+      m_advanced(services),
+      m_listNotices(services.agent),
+      m_editor(m_approved, m_blocked, Lists::SenderListPathsIn(m_paths.dataFolder), m_listNotices),
+      m_approvedPage(Lists::SenderList::Approved, {m_approved, m_blocked, m_editor}, services,
+                     senderPorts),
+      m_blockedPage(Lists::SenderList::Blocked, {m_approved, m_blocked, m_editor}, services,
+                    senderPorts) {}
 
 void CFilteringSheetModel::SetUp() {
-    m_approvedLoad = m_approved.Load(Lists::ApprovedListPath(m_paths.dataFolder));
-    m_blockedLoad = m_blocked.Load(Lists::BlockedListPath(m_paths.dataFolder));
+    m_editor.Load();
 }
 
 void CFilteringSheetModel::ApplyAll() {
     m_spamDetection.Apply();
     m_linkFilter.Apply();
+    m_approvedPage.Apply();
+    m_blockedPage.Apply();
     m_encodings.Apply();
     m_advanced.Apply();
 }

@@ -5,11 +5,14 @@
 #include <string_view>
 
 #include "lists/ListFileStatus.h"
+#include "lists/SenderListEditor.h"
 #include "lists/SenderListSet.h"
 #include "ui/AdvancedPageModel.h"
+#include "ui/AgentListNotices.h"
 #include "ui/BlockEncodingPageModel.h"
 #include "ui/LinkFilterPageModel.h"
 #include "ui/PageServices.h"
+#include "ui/SenderPageModel.h"
 #include "ui/SpamDetectionPageModel.h"
 
 namespace Orva::Ui {
@@ -60,11 +63,11 @@ struct SheetButtons {
 // Help at the left edge; OK and Cancel at the right edge, Cancel rightmost. Sizes and tops stay.
 SheetButtons PlaceSheetButtons(int clientWidth, SheetButtons current);
 
-// The filtering sheet without its windows: the models of its settings pages and the two sender
-// lists that the approved- and blocked-sender pages share.
+// The filtering sheet without its windows: the models of its pages and the two sender lists
+// that the approved- and blocked-sender pages share.
 class CFilteringSheetModel {
 public:
-    CFilteringSheetModel(PageServices& services, SheetPaths paths);
+    CFilteringSheetModel(PageServices& services, SheetPaths paths, SenderPagePorts senderPorts);
     CFilteringSheetModel(const CFilteringSheetModel&) = delete;
     CFilteringSheetModel& operator=(const CFilteringSheetModel&) = delete;
 
@@ -75,11 +78,13 @@ public:
     CLinkFilterPageModel& LinkFilter() { return m_linkFilter; }
     CBlockEncodingPageModel& Encodings() { return m_encodings; }
     CAdvancedPageModel& Advanced() { return m_advanced; }
+    CSenderPageModel& ApprovedSenders() { return m_approvedPage; }
+    CSenderPageModel& BlockedSenders() { return m_blockedPage; }
     Lists::CWListSet& Approved() { return m_approved; }
     Lists::CBListSet& Blocked() { return m_blocked; }
     // What SetUp found for each list file; a list whose file was refused is never saved over it.
-    Lists::ListLoad ApprovedLoad() const { return m_approvedLoad; }
-    Lists::ListLoad BlockedLoad() const { return m_blockedLoad; }
+    Lists::ListLoad ApprovedLoad() const { return m_editor.LoadOf(Lists::SenderList::Approved); }
+    Lists::ListLoad BlockedLoad() const { return m_editor.LoadOf(Lists::SenderList::Blocked); }
     const SheetPaths& Paths() const { return m_paths; }
 
     // The sheet's OK: each page's apply, in page order. A page that was never shown writes
@@ -94,8 +99,10 @@ private:
     CAdvancedPageModel m_advanced;
     Lists::CWListSet m_approved;
     Lists::CBListSet m_blocked;
-    Lists::ListLoad m_approvedLoad = Lists::ListLoad::Absent;
-    Lists::ListLoad m_blockedLoad = Lists::ListLoad::Absent;
+    CAgentListNotices m_listNotices;
+    Lists::CSenderListEditor m_editor;
+    CSenderPageModel m_approvedPage;
+    CSenderPageModel m_blockedPage;
 };
 
 }  // namespace Orva::Ui

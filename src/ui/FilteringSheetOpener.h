@@ -21,7 +21,8 @@ public:
 // The settings command: nothing while the security suite is busy with a modal operation of its
 // own; otherwise the sheet, captioned in the user's language, over both sender lists loaded
 // once for the two list pages.
-bool OpenFilteringSheet(PageServices& services, const SheetPaths& paths, ISheetWindows& windows,
+bool OpenFilteringSheet(PageServices& services, const SheetPaths& paths,
+                        SenderPagePorts senderPorts, ISheetWindows& windows,
                         ZelCommon::Platform::WindowHandle parent);
 
 }  // namespace Orva::Ui

@@ -16,8 +16,6 @@ constexpr wchar_t kOwnerClassName[] = L"OrvaFilteringSheetOwner";
 constexpr UINT_PTR kSubclassId = 1;
 constexpr int kTabItemHeight = 22;
 
-constexpr std::wstring_view kSenderColumns[] = {L"IDS_HEADER_ADDR", L"IDS_HEADER_SENDERNAME"};
-
 // The sheet being opened on this thread: the sheet's callback carries no pointer of its own.
 thread_local CFilteringSheet* t_opening = nullptr;
 // The sheet whose keys the message hook watches.
@@ -48,8 +46,8 @@ CFilteringSheet::CFilteringSheet(CFilteringSheetModel& model, PageServices& serv
       m_openHelp(std::move(openHelp)),
       m_spamDetection(model.SpamDetection(), services),
       m_linkFilter(model.LinkFilter(), services),
-      m_approved(IDD_APPROVE_SENDER_PAGE, ApprovedPageTexts(), kSenderColumns, services),
-      m_blocked(IDD_BLOCK_SENDER_PAGE, BlockedPageTexts(), kSenderColumns, services),
+      m_approved(model.ApprovedSenders(), services),
+      m_blocked(model.BlockedSenders(), services),
       m_encodings(model.Encodings(), services),
       m_advanced(model.Advanced(), services) {
     // The pages' list views and the tooltips are common controls.

@@ -12,8 +12,8 @@
 #include "ui/DrawTabCtrl_win.h"
 #include "ui/FilteringSheetModel.h"
 #include "ui/LinkFilterPage_win.h"
-#include "ui/ListPage_win.h"
 #include "ui/PageServices.h"
+#include "ui/SenderListPage_win.h"
 #include "ui/SpamDetectionPage_win.h"
 
 namespace Orva::Ui {
@@ -55,8 +55,8 @@ private:
     HelpOpener m_openHelp;
     CSpamDetectionPage m_spamDetection;
     CLinkFilter m_linkFilter;
-    CListPage m_approved;
-    CListPage m_blocked;
+    CSenderListPage m_approved;
+    CSenderListPage m_blocked;
     CBlockEncodingPage m_encodings;
     CAdvancedPage m_advanced;
     CDrawTabCtrl m_tabs;

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "PageRig.h"
+#include "SenderPageRig.h"
 #include "lists/SenderLists.h"
 #include "support/FileBytes.h"
 
@@ -37,7 +37,7 @@ TEST(FilteringSheet, PlaceSheetButtons_HelpLeft_CancelRightmost_SixPixelsApart) 
 }
 
 TEST(FilteringSheet, SetUp_LoadsBothListsAndKeepsWhatItFound) {
-    Testing::PageRig rig;
+    Testing::SenderPageRig rig;
     const std::wstring data = rig.files.temp.Path();
     {
         Lists::CWListSet approved;
@@ -45,7 +45,7 @@ TEST(FilteringSheet, SetUp_LoadsBothListsAndKeepsWhatItFound) {
         approved.Save(Lists::ApprovedListPath(data));
     }
     Testing::WriteFileBytes(rig.files.temp.Root() / "BlackList.dat", "not a list\n");
-    CFilteringSheetModel sheet(rig.services, {rig.files.files.userFile, data, data, L""});
+    CFilteringSheetModel& sheet = rig.sheet;
     sheet.SetUp();
     EXPECT_EQ(sheet.ApprovedLoad(), Lists::ListLoad::Loaded);
     EXPECT_TRUE(sheet.Approved().Find(L"anna@example.com"));
@@ -55,8 +55,8 @@ TEST(FilteringSheet, SetUp_LoadsBothListsAndKeepsWhatItFound) {
 
 // Only the pages that were shown take part in the OK.
 TEST(FilteringSheet, ApplyAll_OnlyShownPagesWriteAndTell) {
-    Testing::PageRig rig;
-    CFilteringSheetModel sheet(rig.services, {});
+    Testing::SenderPageRig rig;
+    CFilteringSheetModel& sheet = rig.sheet;
     sheet.LinkFilter().Load();
     sheet.ApplyAll();
     EXPECT_EQ(rig.files.UserRaw(SettingId::EnableWexor), L"0");
@@ -69,13 +69,13 @@ TEST(FilteringSheet, ApplyAll_OnlyShownPagesWriteAndTell) {
 // A settings file in a folder that does not exist: each page says so in the log and the agent
 // is not told of values it would not find.
 TEST(FilteringSheet, Apply_UnwritableSettingsFile_FalseLoggedAndNoNotice) {
-    Testing::PageRig rig;
+    Testing::SenderPageRig rig;
     Settings::SettingsStore unwritable(
         ZelCommon::Storage::SystemProfileApi(),
         {rig.files.files.installFile, rig.files.temp.Folder(L"absent") + L"ORVA_WLM.ini", L"",
          false});
     PageServices services{unwritable, rig.agent, rig.strings, rig.log.Log()};
-    CFilteringSheetModel sheet(services, {});
+    CFilteringSheetModel sheet(services, {}, {rig.boxes, rig.dialog, rig.contacts});
     sheet.SpamDetection().Load();
     sheet.SpamDetection().MoveSlider(0);
     sheet.LinkFilter().Load();

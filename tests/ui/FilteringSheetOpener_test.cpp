@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-#include "PageRig.h"
+#include "SenderPageRig.h"
 #include "settings/localisation/StringIds.h"
 #include "ui/ControlTexts.h"
 
@@ -29,14 +29,15 @@ public:
 
 TEST(FilteringSheetOpener, SuiteBusyOrNot_TheSheetOpensOnlyWhenTheSuiteIsIdle) {
     for (const bool suiteBusy : {false, true}) {
-        Testing::PageRig rig;
+        Testing::SenderPageRig rig;
         rig.strings.texts[L"IDS_STRING_FILTERING_SHEET"] = L"Spam Filter Settings";
         if (suiteBusy) {
             rig.windows.AddWindow(std::wstring(Plugin::kSuiteWindowTitle));
         }
         FakeSheetWindows windows;
 
-        const bool ok = OpenFilteringSheet(rig.services, {}, windows, 77);
+        const bool ok = OpenFilteringSheet(rig.services, {}, {rig.boxes, rig.dialog, rig.contacts},
+                                           windows, 77);
 
         EXPECT_EQ(ok, !suiteBusy);
         EXPECT_EQ(windows.shownCaption, suiteBusy ? L"<not shown>" : L"Spam Filter Settings");
@@ -53,9 +54,9 @@ TEST(ControlTexts, EveryStringIdOfThePages_IsOneTheShippedTablesMustHold) {
     };
     for (const auto& table :
          {DefaultLevelTexts(), CustomLevelTexts(), CategoryLevelTexts(), WorryFreeLevelTexts(),
-          AdvancedPageTexts(), ApprovedPageTexts(), BlockedPageTexts(), EncodingsPageTexts(),
-          ConfirmationTexts(), AboutTexts(), FeedbackTexts(), StatisticsDialogTexts(),
-          UpdatesTexts(), ProxyTexts()}) {
+          AdvancedPageTexts(), ApprovedPageTexts(), BlockedPageTexts(), EditSenderTexts(),
+          EncodingsPageTexts(), ConfirmationTexts(), AboutTexts(), FeedbackTexts(),
+          StatisticsDialogTexts(), UpdatesTexts(), ProxyTexts()}) {
         for (const ControlText& text : table) {
             EXPECT_TRUE(isKnown(text.stringId))
                 << std::string(text.stringId.begin(), text.stringId.end());

@@ -37,6 +37,7 @@
 #include "ui/ConfirmationDialog_win.h"
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
+#include "ui/EditSenderDialog_win.h"
 #include "ui/FeedbackIds.h"
 #include "ui/FilteringSheet_win.h"
 #include "ui/MessageBoxes_win.h"
@@ -68,6 +69,12 @@ private:
     uint32_t m_lcid;
 };
 
+// The contact import is not part of the screenshots.
+class NoContactImport final : public Orva::Ui::IContactImport {
+public:
+    void RunContactImport(ZelCommon::Platform::WindowHandle) override {}
+};
+
 // A step that lets the window paint before the next one.
 CModalDriver::NamedStep Settle() {
     return {"settle", [ticks = 0]() mutable { return ++ticks > 8; }};
@@ -86,6 +93,7 @@ public:
 
     int Run() {
         int failures = 0;
+        PrepareSenderLists();
         for (int page = 0; page < Orva::Ui::kSheetPageCount; ++page) {
             failures += Shoot(page, {}) ? 0 : 1;
         }
@@ -109,6 +117,7 @@ public:
                        }}})
                 ? 0
                 : 1;
+        failures += ShootEditSender() ? 0 : 1;
         failures += ShootConfirmation() ? 0 : 1;
         failures += ShootAbout() ? 0 : 1;
         failures += ShootStatistics(L"statistics", L"6") ? 0 : 1;
@@ -168,8 +177,12 @@ private:
 
     // Opens the sheet on `page`, saves it, runs `more`, and cancels.
     bool Shoot(int page, std::vector<CModalDriver::NamedStep> more) {
+        Orva::Ui::CMessageBoxes boxes;
+        Orva::Ui::CEditSenderDialogs editSender(boxes, m_services->strings);
+        NoContactImport contacts;
         Orva::Ui::CFilteringSheetModel model(m_services->page,
-                                             {Files().userFile, m_dataFolder, L"", L""});
+                                             {Files().userFile, m_dataFolder, L"", L""},
+                                             {boxes, editSender, contacts});
         model.SetUp();
         Orva::Ui::CFilteringSheet sheet(model, m_services->page, [](std::wstring_view) {});
         std::vector<CModalDriver::NamedStep> steps = {
@@ -202,6 +215,58 @@ private:
         const std::wstring caption = m_services->strings.LoadShown(L"IDS_STRING_FILTERING_SHEET");
         sheet.RunModal(caption, nullptr);
         return driver.Finished();
+    }
+
+    // A few hundred approved senders, some without a name, and a short blocked list.
+    void PrepareSenderLists() const {
+        Orva::Lists::CWListSet approved;
+        const wchar_t* const names[] = {L"Anna Berger", L"", L"J\u00fcrgen M\u00fcller",
+                                        L"Customer Service", L"Li Wei"};
+        for (int i = 0; i < 320; ++i) {
+            const std::wstring address = L"contact" + std::to_wstring(i) + L"@partner" +
+                                         std::to_wstring(i % 17) + L".example.com";
+            approved.Add(address.c_str(), {names[i % 5], address});
+        }
+        approved.Add(L"*@family.example.org", {L"", L"*@family.example.org"});
+        approved.Save(Orva::Lists::ApprovedListPath(m_dataFolder));
+        Orva::Lists::CBListSet blocked;
+        for (const wchar_t* address :
+             {L"offers@cheap-deals.example", L"*@bulk-mailer.example", L"winner@lottery.example"}) {
+            blocked.Add(address, {L"", address});
+        }
+        blocked.Save(Orva::Lists::BlockedListPath(m_dataFolder));
+    }
+
+    // The edit dialog over the approved page, filled with its first row.
+    bool ShootEditSender() {
+        return Shoot(
+            2,
+            {{"edit first row",
+              [] {
+                  const HWND sheet = Orva::Testing::FindPropertySheet();
+                  const HWND list =
+                      sheet ? Orva::Testing::FindDescendant(sheet, IDC_LIST_VIEW) : nullptr;
+                  if (list == nullptr || !::IsWindowVisible(list)) {
+                      return false;
+                  }
+                  ListView_SetItemState(list, 0, LVIS_SELECTED, LVIS_SELECTED);
+                  ::PostMessageW(::GetParent(list), WM_COMMAND,
+                                 MAKEWPARAM(IDC_BUTTON_EDIT_SENDER, BN_CLICKED), 0);
+                  return true;
+              }},
+             {"dialog",
+              [] { return Orva::Testing::FindDialogHolding(IDC_EDIT_SENDER_ADDRESS) != nullptr; }},
+             Settle(),
+             {"save dialog",
+              [this] {
+                  const HWND dialog = Orva::Testing::FindDialogHolding(IDC_EDIT_SENDER_ADDRESS);
+                  Save(dialog, L"edit-sender");
+                  Orva::Testing::Click(::GetDlgItem(dialog, IDCANCEL));
+                  return true;
+              }},
+             {"dialog closed", [] {
+                  return Orva::Testing::FindDialogHolding(IDC_EDIT_SENDER_ADDRESS) == nullptr;
+              }}});
     }
 
     // The notice a user of an unsupported default account sees.

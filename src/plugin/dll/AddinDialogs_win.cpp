@@ -23,10 +23,12 @@ CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
       m_messaging(parts.messaging),
       m_log(parts.log),
       m_windows([this](std::wstring_view topic) { OpenHelpTopic(topic); }),
+      m_editSender(m_boxes, parts.strings),
       m_notYetBuilt(notYetBuilt) {}
 
 void CAddinDialogs::OpenFilteringSheet() {
-    Ui::OpenFilteringSheet(m_services, m_sheetPaths, m_windows, m_mailClient);
+    Ui::OpenFilteringSheet(m_services, m_sheetPaths, {m_boxes, m_editSender, *this}, m_windows,
+                           m_mailClient);
 }
 
 void CAddinDialogs::OpenAbout() {

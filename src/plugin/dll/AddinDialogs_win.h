@@ -10,6 +10,8 @@
 #include "settings/SettingsStore.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 #include "settings/log/DebugLog.h"
+#include "ui/ContactImport.h"
+#include "ui/EditSenderDialog_win.h"
 #include "ui/FilteringSheetModel.h"
 #include "ui/MessageBoxes_win.h"
 #include "ui/PageServices.h"
@@ -20,8 +22,9 @@ namespace Orva::Plugin {
 
 // The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
 // filtering sheet, the statistics dialog, the About box and the unsupported-server notice, modal
-// over the mail client's main window, and the updates dialog, which the About box opens.
-class CAddinDialogs final : public ICommandDialogs {
+// over the mail client's main window, and the updates dialog, which the About box opens. The
+// approved-sender page starts the contact import through it.
+class CAddinDialogs final : public ICommandDialogs, public Ui::IContactImport {
 public:
     struct Parts {
         Settings::SettingsStore& settings;
@@ -43,6 +46,9 @@ public:
     void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
     void ImportContacts() override { m_notYetBuilt.ImportContacts(); }
+    void RunContactImport(ZelCommon::Platform::WindowHandle /*owner*/) override {
+        m_notYetBuilt.ImportContacts();
+    }
     // The ribbon has no entry for it: the About box offers it.
     void OpenUpdates() { RunUpdates(m_mailClient); }
 
@@ -60,6 +66,7 @@ private:
     Ui::CUserPasswordProtector m_protector;
     Ui::CSheetWindows m_windows;
     Ui::CMessageBoxes m_boxes;
+    Ui::CEditSenderDialogs m_editSender;
     ICommandDialogs& m_notYetBuilt;
     ZelCommon::Platform::WindowHandle m_mailClient = 0;
 };
