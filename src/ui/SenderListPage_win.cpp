@@ -141,11 +141,16 @@ std::optional<INT_PTR> CSenderListPage::OnMessage(UINT message, WPARAM wParam, L
                     ShowRows();
                     return TRUE;
                 }
-                case NM_DBLCLK:
-                    if (reinterpret_cast<const NMITEMACTIVATE*>(lParam)->iItem >= 0) {
+                case NM_DBLCLK: {
+                    // The row under the pointer is the one edited, whatever else was selected.
+                    const int row = reinterpret_cast<const NMITEMACTIVATE*>(lParam)->iItem;
+                    if (row >= 0) {
+                        ListView_SetItemState(header.hwndFrom, -1, 0, LVIS_SELECTED);
+                        ListView_SetItemState(header.hwndFrom, row, LVIS_SELECTED, LVIS_SELECTED);
                         Run(&CSenderPageModel::Edit);
                     }
                     return TRUE;
+                }
                 default:
                     break;
             }

@@ -65,15 +65,10 @@ struct SenderPageRig : PageRig {
                          {L"IDS_WARNING_CAPTION", L"Warning"},
                          {L"IDS_CAP_CONFIMATION", L"Apply"},
                          {L"IDS_APPROVELISTCONLICT_MSG", L"move to approved?"},
-                         {L"IDS_BLOCKLISTCONLICT_MSG", L"move to blocked?"},
                          {L"IDS_LISTEXISTED_MSG", L"already listed"},
                          {L"IDS_LISTFULL_MSG", L"at most %d"},
-                         {L"IDS_REMOVEADDR_MSG", L"remove?"},
                          {L"IDS_MSG_APPLYFIRST", L"save first?"},
-                         {L"IDS_TEXT_TOO_LONG_MSG", L"at most %d characters"},
-                         {L"IDS_WRONG_EMAILADDR_MSG", L"not an address"},
                          {L"IDS_SPAM_NAME", L"SpamStop"},
-                         {L"IDS_APPROVED_NOTE", L"approved note"},
                          {L"IDS_LIST_READONLY_NOTE", L"read-only"}};
     }
 
@@ -88,7 +83,7 @@ struct SenderPageRig : PageRig {
     }
     // The addresses a list file holds, in key order.
     template <class Set>
-    std::vector<std::wstring> FileAddresses(const std::wstring& path) const {
+    static std::vector<std::wstring> FileAddresses(const std::wstring& path) {
         Set set;
         set.Load(path);
         std::vector<std::wstring> addresses;
@@ -102,13 +97,6 @@ struct SenderPageRig : PageRig {
     }
     std::vector<std::wstring> BlockedFile() const {
         return FileAddresses<Lists::CBListSet>(paths.blocked);
-    }
-    static std::vector<std::wstring> Shown(const Ui::CSenderPageModel& page) {
-        std::vector<std::wstring> rows;
-        for (size_t row = 0; row < page.Rows().Count(); ++row) {
-            rows.push_back(page.Rows().At(row).address);
-        }
-        return rows;
     }
     // Opens the sheet and shows both pages.
     void Open() {
