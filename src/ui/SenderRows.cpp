@@ -37,16 +37,6 @@ void CSenderRows::Order() {
     }
 }
 
-size_t CSenderRows::RowOf(const std::wstring& address) const {
-    const std::wstring key = Lists::ListKeyOf(address);
-    for (size_t row = 0; row < m_order.size(); ++row) {
-        if (Lists::ListKeyOf(At(row).address) == key) {
-            return row;
-        }
-    }
-    return m_order.size();
-}
-
 void CSenderRows::Select(const std::vector<size_t>& rows) {
     m_selectedKeys.clear();
     for (const size_t row : rows) {

@@ -75,7 +75,7 @@ TEST(FilteringSheet, Apply_UnwritableSettingsFile_FalseLoggedAndNoNotice) {
         {rig.files.files.installFile, rig.files.temp.Folder(L"absent") + L"ORVA_WLM.ini", L"",
          false});
     PageServices services{unwritable, rig.agent, rig.strings, rig.log.Log()};
-    CFilteringSheetModel sheet(services, {}, {rig.boxes, rig.dialog, rig.contacts});
+    CFilteringSheetModel sheet(services, {}, {rig.user, rig.user, rig.user});
     sheet.SpamDetection().Load();
     sheet.SpamDetection().MoveSlider(0);
     sheet.LinkFilter().Load();

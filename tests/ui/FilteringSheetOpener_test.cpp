@@ -36,8 +36,8 @@ TEST(FilteringSheetOpener, SuiteBusyOrNot_TheSheetOpensOnlyWhenTheSuiteIsIdle) {
         }
         FakeSheetWindows windows;
 
-        const bool ok = OpenFilteringSheet(rig.services, {}, {rig.boxes, rig.dialog, rig.contacts},
-                                           windows, 77);
+        const bool ok =
+            OpenFilteringSheet(rig.services, {}, {rig.user, rig.user, rig.user}, windows, 77);
 
         EXPECT_EQ(ok, !suiteBusy);
         EXPECT_EQ(windows.shownCaption, suiteBusy ? L"<not shown>" : L"Spam Filter Settings");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,51 +12,36 @@
 
 namespace Orva::Testing {
 
-// Answers the boxes in turn (Cancel once the answers run out) and keeps their texts.
-class ScriptedBoxes final : public Ui::IMessageBoxes {
-public:
+template <class T, class Empty>
+T Next(std::deque<T>& script, Empty whenEmpty) {
+    if (script.empty()) {
+        return whenEmpty;
+    }
+    T next = script.front();
+    script.pop_front();
+    return next;
+}
+
+// The user at the screen: answers the boxes in turn (Cancel once the answers run out), types
+// into the edit dialog (Cancel once the entries run out), and imports contacts into the files.
+struct ScriptedUser final : Ui::IMessageBoxes, Ui::IEditSenderDialog, Ui::IContactImport {
     Ui::BoxAnswer Show(ZelCommon::Platform::WindowHandle, const std::wstring& text,
                        const std::wstring& caption, uint32_t) override {
         shown.push_back(caption + L": " + text);
-        if (answers.empty()) {
-            return Ui::BoxAnswer::Cancel;
-        }
-        const Ui::BoxAnswer answer = answers.front();
-        answers.pop_front();
-        return answer;
+        return Next(answers, Ui::BoxAnswer::Cancel);
     }
-    std::deque<Ui::BoxAnswer> answers;
-    std::vector<std::wstring> shown;
-};
-
-// The user's entries in the edit dialog, one per opening; Cancel once they run out.
-class ScriptedEditDialog final : public Ui::IEditSenderDialog {
-public:
     std::optional<Ui::SenderFields> Run(ZelCommon::Platform::WindowHandle, const std::wstring&,
                                         const Ui::SenderFields& initial) override {
-        shownFields.push_back(initial);
-        if (entries.empty()) {
-            return std::nullopt;
-        }
-        const Ui::SenderFields typed = entries.front();
-        entries.pop_front();
-        return typed;
+        dialogShowed.push_back(initial);
+        return Next(entries, std::optional<Ui::SenderFields>());
     }
-    std::deque<Ui::SenderFields> entries;
-    std::vector<Ui::SenderFields> shownFields;
-};
+    void RunContactImport(ZelCommon::Platform::WindowHandle) override { import(); }
 
-// The contact import as it acts on the files: what `run` does to them.
-class FileContactImport final : public Ui::IContactImport {
-public:
-    void RunContactImport(ZelCommon::Platform::WindowHandle) override {
-        ++runs;
-        if (run) {
-            run();
-        }
-    }
-    std::function<void()> run;
-    int runs = 0;
+    std::deque<Ui::BoxAnswer> answers;
+    std::vector<std::wstring> shown;
+    std::deque<std::optional<Ui::SenderFields>> entries;
+    std::vector<Ui::SenderFields> dialogShowed;
+    std::function<void()> import = [] {};
 };
 
 // A sheet over list files in a temporary data folder, with both sender pages.
@@ -72,16 +58,14 @@ struct SenderPageRig : PageRig {
                          {L"IDS_LIST_READONLY_NOTE", L"read-only"}};
     }
 
-    // Writes a list file as the agent or an older version left it.
     template <class Set>
-    void WriteList(const std::wstring& path, std::initializer_list<Lists::SenderEntry> entries) {
+    static void WriteList(const std::wstring& path, std::vector<std::wstring> addresses) {
         Set set;
-        for (const Lists::SenderEntry& entry : entries) {
-            set.Add(entry.address.c_str(), entry);
+        for (const std::wstring& address : addresses) {
+            set.Add(address.c_str(), {L"", address});
         }
         set.Save(path);
     }
-    // The addresses a list file holds, in key order.
     template <class Set>
     static std::vector<std::wstring> FileAddresses(const std::wstring& path) {
         Set set;
@@ -91,6 +75,12 @@ struct SenderPageRig : PageRig {
             addresses.push_back(entry.address);
         }
         return addresses;
+    }
+    void WriteApproved(std::vector<std::wstring> addresses) {
+        WriteList<Lists::CWListSet>(paths.approved, std::move(addresses));
+    }
+    void WriteBlocked(std::vector<std::wstring> addresses) {
+        WriteList<Lists::CBListSet>(paths.blocked, std::move(addresses));
     }
     std::vector<std::wstring> ApprovedFile() const {
         return FileAddresses<Lists::CWListSet>(paths.approved);
@@ -107,11 +97,9 @@ struct SenderPageRig : PageRig {
 
     std::wstring data = files.temp.Path();
     Lists::SenderListPaths paths = Lists::SenderListPathsIn(data);
-    ScriptedBoxes boxes;
-    ScriptedEditDialog dialog;
-    FileContactImport contacts;
+    ScriptedUser user;
     Ui::CFilteringSheetModel sheet{
-        services, {files.files.userFile, data, data, L""}, {boxes, dialog, contacts}};
+        services, {files.files.userFile, data, data, L""}, {user, user, user}};
 };
 
 }  // namespace Orva::Testing

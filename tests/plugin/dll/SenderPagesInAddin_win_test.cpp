@@ -18,16 +18,20 @@ class SenderPagesInAddin : public AddinWithRibbon {
 protected:
     ~SenderPagesInAddin() override { std::filesystem::remove(approvedFile); }
 
-    HWND List() const { return sheet ? FindDescendant(sheet, IDC_LIST_VIEW) : nullptr; }
-    std::wstring RowText(int row) const {
-        wchar_t text[64] = {};
-        ListView_GetItemText(List(), row, 0, text, 64);
-        return text;
+    HWND List() const { return FindDescendant(sheet, IDC_LIST_VIEW); }
+    bool ListShows(std::vector<std::wstring> rows) const {
+        std::vector<std::wstring> shown(static_cast<size_t>(ListView_GetItemCount(List())));
+        for (size_t row = 0; row < shown.size(); ++row) {
+            wchar_t text[64] = {};
+            ListView_GetItemText(List(), static_cast<int>(row), 0, text, 64);
+            shown[row] = text;
+        }
+        return shown == rows;
     }
-    // Fills the edit dialog once it shows `shown` in its address field, and presses OK.
-    CModalDriver::NamedStep TypeSender(const char* name, std::wstring shown, std::wstring sender,
-                                       std::wstring address) {
-        return {name, [=] {
+    // Types into the edit dialog once it shows `shown` as the address, and presses OK.
+    static CModalDriver::NamedStep Type(std::wstring shown, std::wstring name,
+                                        std::wstring address) {
+        return {"typing over " + std::string(shown.begin(), shown.end()), [=] {
                     const HWND dialog = Testing::FindDialogHolding(IDC_EDIT_SENDER_ADDRESS);
                     wchar_t current[64] = {};
                     if (dialog != nullptr) {
@@ -36,7 +40,7 @@ protected:
                     if (dialog == nullptr || shown != current) {
                         return false;
                     }
-                    ::SetDlgItemTextW(dialog, IDC_EDIT_SENDER_NAME, sender.c_str());
+                    ::SetDlgItemTextW(dialog, IDC_EDIT_SENDER_NAME, name.c_str());
                     ::SetDlgItemTextW(dialog, IDC_EDIT_SENDER_ADDRESS, address.c_str());
                     Testing::Click(::GetDlgItem(dialog, IDOK));
                     return true;
@@ -47,8 +51,8 @@ protected:
     HWND sheet = nullptr;
 };
 
-// The user adds a sender, renames it with a double click, removes the older one after the
-// question, and presses OK: the file holds the result and the agent is told.
+// The user adds a sender, renames it with a double click on its row, removes the older one
+// after the question, and presses OK: the file holds the result and the agent is told.
 TEST_F(SenderPagesInAddin, AddEditByDoubleClickRemoveThenOk_FileWrittenAndAgentTold) {
     {
         Lists::CWListSet approved;
@@ -58,63 +62,61 @@ TEST_F(SenderPagesInAddin, AddEditByDoubleClickRemoveThenOk_FileWrittenAndAgentT
     ASSERT_TRUE(StartAddin()) << LogText();
 
     const std::string stopped = RunAfterClick(
-        kSettingsEntry,
-        {{"approved page",
-          [this] {
-              sheet = Testing::FindPropertySheet();
-              if (sheet == nullptr) {
-                  return false;
-              }
-              PropSheet_SetCurSel(sheet, nullptr, 2);
-              return List() != nullptr && ListView_GetItemCount(List()) == 1;
-          }},
-         {"add",
-          [this] {
-              Testing::Click(FindDescendant(sheet, IDC_BUTTON_ADD_SENDER));
-              return true;
-          }},
-         TypeSender("new sender", L"", L"Ann", L" ann@example.com "),
-         {"double click on the new row",
-          [this] {
-              if (ListView_GetItemCount(List()) != 2 || RowText(0) != L"ann@example.com") {
-                  return false;
-              }
-              ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
-              RECT row{};
-              ListView_GetItemRect(List(), 0, &row, LVIR_LABEL);
-              ::PostMessageW(List(), WM_LBUTTONDBLCLK, MK_LBUTTON,
-                             MAKELPARAM(row.left + 4, (row.top + row.bottom) / 2));
-              return true;
-          }},
-         TypeSender("renamed", L"ann@example.com", L"Ann Smith", L"anna@example.com"),
-         {"remove the old one",
-          [this] {
-              if (RowText(0) != L"anna@example.com") {
-                  return false;
-              }
-              ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
-              ListView_SetItemState(List(), 1, LVIS_SELECTED, LVIS_SELECTED);
-              Testing::Click(FindDescendant(sheet, IDC_BUTTON_REMOVE_SENDER));
-              return true;
-          }},
-         {"OK in the question",
-          [this] {
-              const HWND box = ::GetActiveWindow();
-              wchar_t type[16] = {};
-              ::GetClassNameW(box, type, 16);
-              if (box == nullptr || box == sheet || std::wstring(type) != L"#32770") {
-                  return false;
-              }
-              Testing::Click(::GetDlgItem(box, IDOK));
-              return true;
-          }},
-         {"sheet OK", [this] {
-              if (ListView_GetItemCount(List()) != 1) {
-                  return false;
-              }
-              Testing::Click(::GetDlgItem(sheet, IDOK));
-              return true;
-          }}});
+        kSettingsEntry, {{"approved page",
+                          [this] {
+                              sheet = Testing::FindPropertySheet();
+                              if (sheet != nullptr) {
+                                  PropSheet_SetCurSel(sheet, nullptr, 2);
+                              }
+                              return sheet != nullptr && ListShows({L"old@example.com"});
+                          }},
+                         {"add",
+                          [this] {
+                              Testing::Click(FindDescendant(sheet, IDC_BUTTON_ADD_SENDER));
+                              return true;
+                          }},
+                         Type(L"", L"Ann", L" ann@example.com "),
+                         {"double click on the new row, none selected",
+                          [this] {
+                              if (!ListShows({L"ann@example.com", L"old@example.com"})) {
+                                  return false;
+                              }
+                              ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
+                              RECT row{};
+                              ListView_GetItemRect(List(), 0, &row, LVIR_LABEL);
+                              ::PostMessageW(List(), WM_LBUTTONDBLCLK, MK_LBUTTON,
+                                             MAKELPARAM(row.left + 4, (row.top + row.bottom) / 2));
+                              return true;
+                          }},
+                         Type(L"ann@example.com", L"Ann Smith", L"anna@example.com"),
+                         {"remove the old one",
+                          [this] {
+                              if (!ListShows({L"anna@example.com", L"old@example.com"})) {
+                                  return false;
+                              }
+                              ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
+                              ListView_SetItemState(List(), 1, LVIS_SELECTED, LVIS_SELECTED);
+                              Testing::Click(FindDescendant(sheet, IDC_BUTTON_REMOVE_SENDER));
+                              return true;
+                          }},
+                         {"OK in the question",
+                          [this] {
+                              const HWND box = ::GetActiveWindow();
+                              wchar_t type[16] = {};
+                              ::GetClassNameW(box, type, 16);
+                              if (box == sheet || std::wstring(type) != L"#32770") {
+                                  return false;
+                              }
+                              Testing::Click(::GetDlgItem(box, IDOK));
+                              return true;
+                          }},
+                         {"sheet OK", [this] {
+                              if (!ListShows({L"anna@example.com"})) {
+                                  return false;
+                              }
+                              Testing::Click(::GetDlgItem(sheet, IDOK));
+                              return true;
+                          }}});
 
     EXPECT_EQ(stopped, "");
     EXPECT_TRUE(Testing::PumpMessagesUntil([] { return Testing::FindPropertySheet() == nullptr; }));
