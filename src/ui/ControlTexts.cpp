@@ -4,6 +4,7 @@
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
 #include "ui/FeedbackIds.h"
+#include "ui/ImportIds.h"
 #include "ui/StatisticsIds.h"
 #include "ui/UpdatesIds.h"
 
@@ -92,6 +93,11 @@ constexpr ControlText kFeedback[] = {
     {IDC_FEEDBACK_TITLE, L"IDS_WTC_TITLE"}, {IDC_FEEDBACK_DESCRIPTION, L"IDS_WTC_DESCRIPTION"},
     {IDC_FEEDBACK_YES, L"IDS_WTC_YES"},     {IDC_FEEDBACK_NO, L"IDS_WTC_NO"},
     {IDC_FEEDBACK_LINK, L"IDS_WTC_LINK"},   {1 /* IDOK */, L"IDS_OK"},
+    {2 /* IDCANCEL */, L"IDS_CANCEL"},
+};
+
+constexpr ControlText kImportDialog[] = {
+    {IDC_IMPORT_TITLE, L"IDS_IMPORT_TITLE"},
     {2 /* IDCANCEL */, L"IDS_CANCEL"},
 };
 
@@ -187,6 +193,9 @@ std::span<const ControlText> AboutTexts() {
 }
 std::span<const ControlText> FeedbackTexts() {
     return kFeedback;
+}
+std::span<const ControlText> ImportDialogTexts() {
+    return kImportDialog;
 }
 std::span<const ControlText> StatisticsDialogTexts() {
     return kStatisticsDialog;

@@ -2,11 +2,15 @@
 
 #include "common_src/ZelCommon/RegistryApi.h"
 #include "common_src/platform/ProcessLauncher.h"
+#include "plugin/agent/AgentListNotifier.h"
+#include "plugin/host/Contacts_win.h"
 #include "settings/localisation/OnlineHelpTopic.h"
 #include "ui/AboutContent.h"
 #include "ui/AboutDialog_win.h"
 #include "ui/ConfirmationDialog_win.h"
+#include "ui/ContactImportRun.h"
 #include "ui/FilteringSheetOpener.h"
+#include "ui/ImportDialog_win.h"
 #include "ui/StatisticsDialog_win.h"
 #include "ui/UpdatesDialog_win.h"
 
@@ -48,6 +52,19 @@ bool CAddinDialogs::ShowUnsupportedServerNotice() {
 
 void CAddinDialogs::OpenStatistics() {
     Ui::RunStatisticsDialog(m_services, m_boxes, reinterpret_cast<HWND>(m_mailClient));
+}
+
+void CAddinDialogs::ImportContacts() {
+    const std::unique_ptr<IContactsLibrary> contacts = CreateSystemContacts();
+    Ui::CImportDlg progress(m_services.strings, reinterpret_cast<HWND>(m_mailClient));
+    const Ui::ContactImportOutcome outcome =
+        Ui::ImportContactList({*contacts, progress, m_boxes, m_services.strings, m_messaging,
+                               ZelCommon::Platform::SystemProcessContext(), m_log},
+                              Lists::SenderListPathsIn(m_sheetPaths.dataFolder));
+    // The agent asked for the import: it rereads the lists it changed.
+    if (outcome.saved) {
+        CAgentListNotifier(m_messaging).SenderListsChanged();
+    }
 }
 
 void CAddinDialogs::RunUpdates(ZelCommon::Platform::WindowHandle owner) {

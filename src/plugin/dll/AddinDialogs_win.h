@@ -42,7 +42,8 @@ public:
     void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
     void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
-    void ImportContacts() override { m_notYetBuilt.ImportContacts(); }
+    // The agent's request (4032): the contacts into the approved list, over the mail client.
+    void ImportContacts() override;
     // The ribbon has no entry for it: the About box offers it.
     void OpenUpdates() { RunUpdates(m_mailClient); }
 
