@@ -70,7 +70,13 @@ public:
     }
 
     void Save(const Lists::SenderListPaths& paths, ContactImportOutcome& outcome) {
-        outcome.saved = m_approved.SaveTo(paths.approved) == Lists::ListSave::Saved;
+        if (m_approved.SaveTo(paths.approved) != Lists::ListSave::Saved) {
+            // Nothing was gained, so nothing of the blocked list is given up either.
+            Log(L"XXX CToolBarWnd::ImportContactList() the approved list [%s] was not written; "
+                L"the blocked list stays as it was",
+                paths.approved);
+            return;
+        }
         const uint32_t kept = Lists::KeepBackup(paths.blocked);
         if (kept == 0) {
             Log(L"@@@ CToolBarWnd::ImportContactList() the blocked list is kept as [%s]",
@@ -80,10 +86,9 @@ public:
             Log(L"XXX CToolBarWnd::ImportContactList() the blocked list could not be kept as "
                 L"[%s], error %u; it stays as it was",
                 Lists::BackupPathOf(paths.blocked), kept);
-            outcome.saved = false;
             return;
         }
-        outcome.saved = m_blocked.SaveTo(paths.blocked) == Lists::ListSave::Saved && outcome.saved;
+        outcome.saved = m_blocked.SaveTo(paths.blocked) == Lists::ListSave::Saved;
     }
 
 private:

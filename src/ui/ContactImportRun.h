@@ -28,7 +28,8 @@ struct ContactImportOutcome {
     bool cancelled = false;
     // The contacts library failed: nothing was saved.
     bool failed = false;
-    // Both list files were written (at least one address was added).
+    // Both list files were written (at least one address was added). The blocked list's file is
+    // rewritten only after the approved list's was, and once the old one is kept.
     bool saved = false;
 };
 
