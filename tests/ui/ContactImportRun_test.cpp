@@ -161,24 +161,21 @@ const std::wstring kLongAddress = std::wstring(250, L'a') + L"@example.com";
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, ImportContactListAddresses,
-    testing::Values(
-        AddressCase{"SameAddressInTwoFields",
-                    {Person(L"Bo", L"bo@example.com", L"BO@example.com")},
-                    {{L"Bo", L"bo@example.com"}}},
-        AddressCase{"SameAddressInTwoContacts",
-                    {Person(L"Bo", L"bo@example.com"), Person(L"Bob", L" bo@example.com ")},
-                    {{L"Bo", L"bo@example.com"}}},
-        AddressCase{"EmptyAndInvalid",
-                    {Person(L"", L"", L"not an address", L"@example.com", L"x@", L"a@b")},
-                    {}},
-        AddressCase{"OverLongAddress", {Person(L"Al", kLongAddress)}, {}},
-        AddressCase{"NonBmpAddress", {Person(L"Em", L"\U0001F600@example.com")}, {}},
-        AddressCase{"OverLongNameKeepsAddress",
-                    {Person(kLongName, L"long@example.com")},
-                    {{L"", L"long@example.com"}}},
-        AddressCase{"NonBmpNameKept",
-                    {Person(L"Smile \U0001F600", L"smile@example.com")},
-                    {{L"Smile \U0001F600", L"smile@example.com"}}}),
+    testing::Values(AddressCase{"SameAddressInTwoFields",
+                                {Person(L"Bo", L"bo@example.com", L"BO@example.com")},
+                                {{L"Bo", L"bo@example.com"}}},
+                    AddressCase{
+                        "EmptyAndInvalid",
+                        {Person(L"", L"", L"not an address", L"@example.com", L"x@", L"a@b")},
+                        {}},
+                    AddressCase{"OverLongAddress", {Person(L"Al", kLongAddress)}, {}},
+                    AddressCase{"NonBmpAddress", {Person(L"Em", L"\U0001F600@example.com")}, {}},
+                    AddressCase{"OverLongNameKeepsAddress",
+                                {Person(kLongName, L"long@example.com")},
+                                {{L"", L"long@example.com"}}},
+                    AddressCase{"NonBmpNameKept",
+                                {Person(L"Smile \U0001F600", L"smile@example.com")},
+                                {{L"Smile \U0001F600", L"smile@example.com"}}}),
     [](const auto& test) { return std::string(test.param.scenario); });
 
 // What the list files hold after a run: the blocked list is rewritten only once it is kept.

@@ -42,14 +42,12 @@ TEST(ImportDialog, CancelClickedMidRun_StopsAndSavesWhatWasAdded) {
     Testing::TempFolder folder;
     const Lists::SenderListPaths paths = Lists::SenderListPathsIn(folder.Path());
     Testing::MapStrings strings;
-    strings.texts[L"IDS_CANCEL"] = L"Abbrechen";
     CImportDlg dialog(strings, owner.get());
     NoQuestions boxes;
     ZelCommon::Fakes::FakeWindowMessaging messaging;
     ZelCommon::Fakes::FakeProcessContext process;
     Testing::ProbeLog log;
     bool ownerDisabled = false;
-    std::wstring cancelText;
     std::wstring shown;
     Testing::CModalDriver driver({
         {"an address is shown",
@@ -64,9 +62,6 @@ TEST(ImportDialog, CancelClickedMidRun_StopsAndSavesWhatWasAdded) {
          [&] {
              const HWND window = Testing::FindDialogHolding(IDC_IMPORT_ADDRESS);
              ownerDisabled = !::IsWindowEnabled(owner.get());
-             wchar_t text[64] = {};
-             ::GetDlgItemTextW(window, IDCANCEL, text, 64);
-             cancelText = text;
              Testing::Click(::GetDlgItem(window, IDCANCEL));
              return true;
          }},
@@ -81,7 +76,6 @@ TEST(ImportDialog, CancelClickedMidRun_StopsAndSavesWhatWasAdded) {
     saved.Load(paths.approved);
     EXPECT_EQ(saved.Count(), static_cast<size_t>(outcome.added));
     EXPECT_TRUE(shown.ends_with(L"@example.com")) << shown;
-    EXPECT_EQ(cancelText, L"Abbrechen");
     EXPECT_TRUE(ownerDisabled);
     EXPECT_TRUE(::IsWindowEnabled(owner.get()));
     EXPECT_EQ(Testing::FindDialogHolding(IDC_IMPORT_ADDRESS), nullptr);

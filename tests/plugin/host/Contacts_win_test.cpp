@@ -68,30 +68,25 @@ struct AddressBook {
     size_t next = 0;
 };
 
-TEST(ComContacts, AddressBook_IsWalkedFromTheFirstContactToTheLast) {
+// The book is walked from its first contact to the last through the members we assume; a member
+// the host lacks, or a call it refuses, is a HostCallError that names it.
+TEST(ComContacts, AddressBook_IsWalkedByNameAndFailuresNameTheMember) {
     AddressBook book;
-    book.contacts = {Contact(L"Ann", L"ann@work.example"), Contact(L"Bo", L"")};
+    book.contacts = {Contact(L"Ann", L"ann@work.example"), Contact(L"Bo", L"", L"OtherIMEmail")};
     const auto manager = book.Library()->CreateContactManager();
     EXPECT_EQ(manager->Count(), 2);
     std::vector<std::wstring> read;
+    std::string failure;
     for (auto contact = manager->FirstContact(); contact; contact = manager->NextContact()) {
         read.push_back(contact->DisplayName() + L" " + contact->Address(ContactAddress::Work));
+        try {
+            contact->Address(ContactAddress::OtherIm);
+        } catch (const HostCallError& error) {
+            failure = error.what();
+        }
     }
     EXPECT_EQ(read, (std::vector<std::wstring>{L"Ann ann@work.example", L"Bo "}));
-}
-
-TEST(ComContacts, MissingMemberOrFailingCall_IsAHostCallErrorNamingIt) {
-    AddressBook book;
-    book.contacts = {Contact(L"Ann", L"ann@work.example", L"OtherIMEmail")};
-    const auto manager = book.Library()->CreateContactManager();
-    const auto contact = manager->FirstContact();
-    try {
-        contact->Address(ContactAddress::OtherIm);
-        ADD_FAILURE() << "no error";
-    } catch (const HostCallError& error) {
-        EXPECT_NE(std::string(error.what()).find("OtherIMEmail"), std::string::npos)
-            << error.what();
-    }
+    EXPECT_NE(failure.find("OtherIMEmail"), std::string::npos) << failure;
     book.manager->members[L"GetContactCount"] = [](const auto&, VARIANT&) { return E_FAIL; };
     EXPECT_THROW(manager->Count(), HostCallError);
 }
