@@ -12,7 +12,6 @@
 namespace Orva::Ui {
 namespace {
 
-using Plugin::ContactAddress;
 using ZelCommon::Platform::WindowHandle;
 
 constexpr wchar_t kName[] = L"CToolBarWnd::ImportContactList";

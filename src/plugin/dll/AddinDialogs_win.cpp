@@ -1,5 +1,7 @@
 #include "plugin/dll/AddinDialogs_win.h"
 
+#include <utility>
+
 #include "common_src/ZelCommon/RegistryApi.h"
 #include "common_src/platform/ProcessLauncher.h"
 #include "plugin/agent/AgentListNotifier.h"
@@ -55,6 +57,13 @@ void CAddinDialogs::OpenStatistics() {
 }
 
 void CAddinDialogs::ImportContacts() {
+    if (std::exchange(m_importing, true)) {
+        return;
+    }
+    const struct Done {
+        bool& importing;
+        ~Done() { importing = false; }
+    } done{m_importing};
     const std::unique_ptr<IContactsLibrary> contacts = CreateSystemContacts();
     Ui::CImportDlg progress(m_services.strings, reinterpret_cast<HWND>(m_mailClient));
     const Ui::ContactImportOutcome outcome =

@@ -63,6 +63,9 @@ private:
     Ui::CMessageBoxes m_boxes;
     ICommandDialogs& m_notYetBuilt;
     ZelCommon::Platform::WindowHandle m_mailClient = 0;
+    // The import window answers messages while it runs, the agent's among them: a request
+    // that comes meanwhile is dropped.
+    bool m_importing = false;
 };
 
 }  // namespace Orva::Plugin
