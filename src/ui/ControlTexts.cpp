@@ -4,6 +4,7 @@
 #include "ui/ConfirmationIds.h"
 #include "ui/DialogIds.h"
 #include "ui/FeedbackIds.h"
+#include "ui/ImportIds.h"
 #include "ui/StatisticsIds.h"
 #include "ui/UpdatesIds.h"
 
@@ -110,6 +111,11 @@ constexpr ControlText kFeedback[] = {
     {2 /* IDCANCEL */, L"IDS_CANCEL"},
 };
 
+constexpr ControlText kImportDialog[] = {
+    {IDC_IMPORT_TITLE, L"IDS_IMPORT_TITLE"},
+    {2 /* IDCANCEL */, L"IDS_CANCEL"},
+};
+
 constexpr ControlText kStatisticsDialog[] = {
     {IDC_STAT_TITLE, L"IDS_STAT_TITLE"},
     {IDC_STAT_SINCE_LABEL, L"IDS_STAT_SINCE"},
@@ -205,6 +211,9 @@ std::span<const ControlText> AboutTexts() {
 }
 std::span<const ControlText> FeedbackTexts() {
     return kFeedback;
+}
+std::span<const ControlText> ImportDialogTexts() {
+    return kImportDialog;
 }
 std::span<const ControlText> StatisticsDialogTexts() {
     return kStatisticsDialog;

@@ -26,6 +26,7 @@ std::span<const ControlText> AboutTexts();
 std::span<const ControlText> FeedbackTexts();
 // The statistics dialog's texts; its rate controls keep their template's format.
 std::span<const ControlText> StatisticsDialogTexts();
+std::span<const ControlText> ImportDialogTexts();
 std::span<const ControlText> UpdatesTexts();
 std::span<const ControlText> ProxyTexts();
 

@@ -56,7 +56,7 @@ TEST(ControlTexts, EveryStringIdOfThePages_IsOneTheShippedTablesMustHold) {
          {DefaultLevelTexts(), CustomLevelTexts(), CategoryLevelTexts(), WorryFreeLevelTexts(),
           AdvancedPageTexts(), ApprovedPageTexts(), BlockedPageTexts(), EditSenderTexts(),
           EncodingsPageTexts(), ConfirmationTexts(), AboutTexts(), FeedbackTexts(),
-          StatisticsDialogTexts(), UpdatesTexts(), ProxyTexts()}) {
+          StatisticsDialogTexts(), ImportDialogTexts(), UpdatesTexts(), ProxyTexts()}) {
         for (const ControlText& text : table) {
             EXPECT_TRUE(isKnown(text.stringId))
                 << std::string(text.stringId.begin(), text.stringId.end());

@@ -7,11 +7,14 @@
 #include "CommandErrors.h"
 #include "ListsSession.h"
 #include "Orvactl.h"
+#include "common_src/platform/AtomicFile.h"
 #include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
-#include "common_src/platform/AtomicFile.h"
+#include "lists/ListBackup.h"
 #include "lists/ListFileText.h"
 #include "lists/SenderListEditor.h"
+#include "lists/SenderLists.h"
+#include "plugin/agent/AgentListNotifier.h"
 
 namespace Orva::Orvactl {
 namespace {
@@ -207,6 +210,32 @@ int UsageFor(const std::wstring& command, ITextSink& err) {
     return ReportUsageError(err, L"wrong arguments for 'lists " + command + L"'");
 }
 
+// The blocked list that the last contact import replaced, back in its place.
+int Restore(Args rest, ZelCommon::Platform::IWindowMessaging& messaging, ITextSink& out,
+            ITextSink& err) {
+    if (rest.size() != 2 || rest[0] != L"--data") {
+        return UsageFor(L"restore", err);
+    }
+    const std::wstring blocked = Lists::BlockedListPath(rest[1]);
+    const std::wstring backup = Lists::BackupPathOf(blocked);
+    switch (Lists::RestoreBackup(blocked)) {
+        case Lists::BackupRestore::NoBackup:
+            return ReportFailure(err, backup + L": no backup to restore");
+        case Lists::BackupRestore::NotAListFile:
+            return ReportFailure(
+                err, backup +
+                         L": not a sender list file (its first line is not a list header); "
+                         L"nothing restored");
+        case Lists::BackupRestore::Unwritable:
+            return ReportFailure(err, blocked + L": cannot be written");
+        case Lists::BackupRestore::Restored:
+            break;
+    }
+    Plugin::CAgentListNotifier(messaging).SenderListsChanged();
+    out.Write(L"restored " + blocked + L" from " + backup + L"\n");
+    return kExitOk;
+}
+
 }  // namespace
 
 std::wstring ListsHelpText() {
@@ -219,6 +248,8 @@ std::wstring ListsHelpText() {
            L"                                  add the addresses of a text file; refused lines\n"
            L"                                  and addresses of the other list are reported and\n"
            L"                                  nothing is written unless --skip-refused\n"
+           L"  lists restore --data FOLDER     put BlackList.dat.bak, kept by the last contact\n"
+           L"                                  import, back as the folder's BlackList.dat\n"
            L"    FILE is WhiteList.dat (approved senders) or BlackList.dat (blocked senders).\n"
            L"    A command that changes a list tells a running agent to read the lists again.\n";
 }
@@ -234,6 +265,9 @@ int RunListsCommand(Args args, ITextSink& out, ITextSink& err,
             return UsageFor(command, err);
         }
         return Validate(args.subspan(1), out);
+    }
+    if (command == L"restore") {
+        return Restore(args.subspan(1), messaging, out, err);
     }
     if (command != L"show" && command != L"add" && command != L"remove" && command != L"export" &&
         command != L"import") {

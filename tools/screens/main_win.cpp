@@ -40,6 +40,7 @@
 #include "ui/EditSenderDialog_win.h"
 #include "ui/FeedbackIds.h"
 #include "ui/FilteringSheet_win.h"
+#include "ui/ImportDialog_win.h"
 #include "ui/MessageBoxes_win.h"
 #include "ui/PasswordProtector_win.h"
 #include "ui/StatisticsDialog_win.h"
@@ -123,6 +124,7 @@ public:
         failures += ShootStatistics(L"statistics", L"6") ? 0 : 1;
         failures += ShootStatistics(L"statistics-disabled", L"-1") ? 0 : 1;
         failures += ShootUpdates() ? 0 : 1;
+        failures += ShootImport() ? 0 : 1;
         return failures;
     }
 
@@ -382,6 +384,24 @@ private:
              ZelCommon::Platform::SystemProcessLauncher()},
             L"", {boxes, protector}, nullptr);
         return driver.Finished();
+    }
+
+    // The contact import's progress window part of the way through an address book.
+    bool ShootImport() {
+        Orva::Ui::CImportDlg dialog(m_services->strings, nullptr);
+        dialog.Open();
+        dialog.SetRange(120);
+        for (int contact = 0; contact < 45; ++contact) {
+            dialog.Step();
+        }
+        dialog.ShowAddress(L"anna.weber@example.com");
+        for (int pass = 0; pass < 20; ++pass) {
+            dialog.Cancelled();
+            ::Sleep(10);
+        }
+        const bool saved = dialog.Handle() != nullptr && Save(dialog.Handle(), L"import-progress");
+        dialog.Close();
+        return saved;
     }
 
     // The dialog over counters written into the output folder's user file; no agent runs.

@@ -1,12 +1,18 @@
 #include "plugin/dll/AddinDialogs_win.h"
 
+#include <utility>
+
 #include "common_src/ZelCommon/RegistryApi.h"
 #include "common_src/platform/ProcessLauncher.h"
+#include "plugin/agent/AgentListNotifier.h"
+#include "plugin/host/Contacts_win.h"
 #include "settings/localisation/OnlineHelpTopic.h"
 #include "ui/AboutContent.h"
 #include "ui/AboutDialog_win.h"
 #include "ui/ConfirmationDialog_win.h"
+#include "ui/ContactImportRun.h"
 #include "ui/FilteringSheetOpener.h"
+#include "ui/ImportDialog_win.h"
 #include "ui/StatisticsDialog_win.h"
 #include "ui/UpdatesDialog_win.h"
 
@@ -50,6 +56,29 @@ bool CAddinDialogs::ShowUnsupportedServerNotice() {
 
 void CAddinDialogs::OpenStatistics() {
     Ui::RunStatisticsDialog(m_services, m_boxes, reinterpret_cast<HWND>(m_mailClient));
+}
+
+void CAddinDialogs::ImportContacts() {
+    // The agent asked for the import: it rereads the lists it changed.
+    if (RunImport(m_mailClient)) {
+        CAgentListNotifier(m_messaging).SenderListsChanged();
+    }
+}
+
+bool CAddinDialogs::RunImport(ZelCommon::Platform::WindowHandle owner) {
+    if (std::exchange(m_importing, true)) {
+        return false;
+    }
+    const struct Done {
+        bool& importing;
+        ~Done() { importing = false; }
+    } done{m_importing};
+    const std::unique_ptr<IContactsLibrary> contacts = CreateSystemContacts();
+    Ui::CImportDlg progress(m_services.strings, reinterpret_cast<HWND>(owner));
+    return Ui::ImportContactList({*contacts, progress, m_boxes, m_services.strings, m_messaging,
+                                  ZelCommon::Platform::SystemProcessContext(), m_log},
+                                 Lists::SenderListPathsIn(m_sheetPaths.dataFolder))
+        .saved;
 }
 
 void CAddinDialogs::RunUpdates(ZelCommon::Platform::WindowHandle owner) {

@@ -45,16 +45,19 @@ public:
     void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
     void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
-    void ImportContacts() override { m_notYetBuilt.ImportContacts(); }
-    void RunContactImport(ZelCommon::Platform::WindowHandle /*owner*/) override {
-        m_notYetBuilt.ImportContacts();
-    }
+    // The agent's request (4032): the contacts into the approved list, over the mail client.
+    void ImportContacts() override;
+    // The approved page's import button: the page saves before and reloads and tells the agent
+    // after.
+    void RunContactImport(ZelCommon::Platform::WindowHandle owner) override { RunImport(owner); }
     // The ribbon has no entry for it: the About box offers it.
     void OpenUpdates() { RunUpdates(m_mailClient); }
 
 private:
     void OpenHelpTopic(std::wstring_view topic);
     void RunUpdates(ZelCommon::Platform::WindowHandle owner);
+    // False when it did not run, or saved nothing.
+    bool RunImport(ZelCommon::Platform::WindowHandle owner);
 
     CAgentNotices m_agent;
     Ui::PageServices m_services;
@@ -69,6 +72,9 @@ private:
     Ui::CEditSenderDialogs m_editSender;
     ICommandDialogs& m_notYetBuilt;
     ZelCommon::Platform::WindowHandle m_mailClient = 0;
+    // The import window answers messages while it runs, the agent's among them: a request
+    // that comes meanwhile is dropped.
+    bool m_importing = false;
 };
 
 }  // namespace Orva::Plugin

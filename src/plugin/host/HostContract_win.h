@@ -84,4 +84,22 @@ inline constexpr wchar_t kSetCaption[] = L"SetToolbarButtonCaption";  // (group,
 inline constexpr wchar_t kEnableButton[] = L"EnableToolbarButton";    // (group, button, enable)
 }  // namespace ToolbarMethod
 
+// NktWLMailApiContacts, the address book. Its members are called by name, getters as a method
+// and a property at once, so that a member the host declares as a property answers the same
+// call. The contact manager: () -> count, () -> first contact, () -> next contact (null after
+// the last). A contact: () -> text, for its name and each of its five addresses.
+namespace Contacts {
+inline constexpr wchar_t kManagerProgId[] = L"NktWLMailApiContacts.ContactManager";
+inline constexpr wchar_t kGetContactCount[] = L"GetContactCount";
+inline constexpr wchar_t kGetFirstContact[] = L"GetFirstContact";
+inline constexpr wchar_t kGetNextContact[] = L"GetNextContact";
+inline constexpr std::array<std::wstring_view, 3> kManagerMembers{
+    kGetContactCount, kGetFirstContact, kGetNextContact};
+
+inline constexpr wchar_t kDisplayName[] = L"DisplayName";
+// In the order of ContactAddress (Contacts.h): home, work, other, default IM, other IM.
+inline constexpr std::array<std::wstring_view, 5> kAddressMembers{
+    L"HomeEmail", L"WorkEmail", L"OtherEmail", L"DefaultIMEmail", L"OtherIMEmail"};
+}  // namespace Contacts
+
 }  // namespace Orva::Plugin::HostContract

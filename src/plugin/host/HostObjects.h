@@ -1,20 +1,13 @@
 #pragma once
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 
+#include "plugin/host/HostCallError.h"
 #include "plugin/host/HostEventRelay.h"
 #include "plugin/host/HostToolbar.h"
 
 namespace Orva::Plugin {
-
-// A COM failure reported by the plug-in host's objects (comet::com_error on Windows); what()
-// is its narrow description.
-class HostCallError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 // The plug-in host's objects as the controller uses them: the init object (ready and shutdown
 // events), the API object (its ribbon, toolbar and selection events), their event sinks, COM and

@@ -172,6 +172,9 @@ constexpr std::wstring_view kIds[] = {
     L"IDS_WTC_LINK",
     L"IDS_ABOUT_FEEDBACK_BUTTON",
     L"IDS_ABOUT_UPDATES_BUTTON",
+    // The contact import's progress dialog.
+    L"IDS_IMPORT_CAPTION",
+    L"IDS_IMPORT_TITLE",
     // Fonts: face names and point sizes.
     L"IDS_ORVA_SYSTEM_FONT",
     L"IDS_INTERMEDIATE_FONT_SIZE",

@@ -185,10 +185,44 @@ TEST_F(ListsCommandTest, BadArguments_AreUsageErrors) {
     EXPECT_EQ("<missing>", Read(m_white));
 }
 
+struct RestoreCase {
+    const char* label;
+    std::string backup;  // empty: none
+    int exitCode;
+    bool restored;
+    unsigned told;
+};
+
+TEST_F(ListsCommandTest, Restore_PutsTheBackupBackOnlyWhenItIsAList) {
+    const std::string current = ListBytes("BL_REC", {});
+    const std::string kept = ListBytes("BL_REC", {{"Spam", "*@spam.example"}});
+    const RestoreCase cases[] = {
+        {"a kept list", kept, kExitOk, true, 1},
+        {"an older product's list", "; Written by ZelQuillon v1.0 (c) 2003 Halvion\n", kExitOk,
+         true, 1},
+        {"no backup", "", kExitFailure, false, 0},
+        {"not a list", "[General]\nLevel=1\n", kExitFailure, false, 0},
+    };
+    m_windows.AddWindow(L"{56639265-C81B-440d-B5CD-3A7ED4F42777}");
+    for (const RestoreCase& test : cases) {
+        Write(m_black, current);
+        std::filesystem::remove(std::filesystem::path(m_black + L".bak"));
+        if (!test.backup.empty()) {
+            Write(m_black + L".bak", test.backup);
+        }
+        m_windows.ClearMessages();
+        EXPECT_EQ(test.exitCode, Run({L"restore", L"--data", m_folder.Path()})) << test.label;
+        EXPECT_EQ(test.restored ? test.backup : current, Read(m_black)) << test.label;
+        EXPECT_EQ(test.told, m_windows.Messages().size()) << test.label;
+        EXPECT_EQ(test.restored, m_err.Text().empty()) << test.label;
+    }
+    EXPECT_EQ(kExitUsage, Run({L"restore", m_folder.Path()}));
+}
+
 TEST(ListsHelpText, NamesEverySubCommand) {
     const std::wstring help = ListsHelpText();
     for (const wchar_t* command : {L"lists show", L"lists add", L"lists remove", L"lists validate",
-                                   L"lists export", L"lists import"}) {
+                                   L"lists export", L"lists import", L"lists restore"}) {
         EXPECT_NE(std::wstring::npos, help.find(command)) << command;
     }
 }

@@ -37,7 +37,7 @@ bool HasInOrder(const std::vector<std::wstring>& entries,
 
 TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
     const std::vector<ScenarioStep> steps = RunMailClientScenario(16);
-    ASSERT_EQ(steps.size(), 10u);
+    ASSERT_EQ(steps.size(), 11u);
     const std::vector<std::vector<std::wstring>> expected = {
         {L"ORVA_WLM.exe\" " + kAgent, L"send " + kController + L" 1 0 0", L"host AdviseInitSink",
          L"debugger ORVA InitializePlugin()"},
@@ -57,6 +57,12 @@ TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
          L"Spam mail deleted.", L"mailbox Spam Mail after it: 1 messages: Holiday photos"},
         {L"window opens " + std::wstring(Plugin::kSuiteWindowTitle),
          L"log @@@ CToolBarWnd::OnClickRibbonButton  OUT"},
+        // The blocked list is kept before the import rewrites it from the approved list's file.
+        {L"log @@@ CToolBarWnd::ImportContactList  IN", L"import window open",
+         L"log @@@ Imported contact item: anna@example.com, Anna Weber",
+         L"log @@@ Imported contact item: bob@example.com, Bob", L"import window closed",
+         L"BlackList.dat.bak]", L"import added 3, saved yes", L"WhiteList.dat holds 3:",
+         L"BlackList.dat holds 0:", L"BlackList.dat.bak holds 2: *@spam.example"},
         {L"ini ORVA_WLM.ini [Antispam] EnableTBar = \"0\"", L"post " + kAgent + L" 1069 0 0",
          L"\"Turn Protection On\"", L"ribbon 1007 button \"Spam\"", L" disabled"},
         {L"send " + kAgent + L" 16 0 0", L"send " + kController + L" 4030 0 0",
@@ -75,7 +81,7 @@ TEST(MailClientScenario, Version16_EachStepShowsItsWorkInTheRealOrder) {
             << ZelCommon::Text::WideToUtf8(RenderScenario(16, {steps[index]}));
     }
     // Found again, never made twice.
-    EXPECT_FALSE(HasInOrder(steps[9].entries, {L"Creating spam mail folder"}));
+    EXPECT_FALSE(HasInOrder(steps[10].entries, {L"Creating spam mail folder"}));
     // With the suite's window there, the not-spam click reaches no agent.
     EXPECT_FALSE(HasInOrder(steps[6].entries, {L" " + kAgent + L" "}));
 

@@ -50,6 +50,16 @@ const StepScript kFirstSession[] = {
          client.ClickNotSpam();
          client.SuiteWindowGoes();
      }},
+    {L"The agent asks for the import of the user's contacts; the user's blocked list is kept as "
+     L"BlackList.dat.bak before the import rewrites it",
+     [](SimulatedMailClient& client, SimulatedMailbox&) {
+         client.SetBlockedSenders({L"offers@shop.example", L"*@spam.example"});
+         client.Process().contacts.contacts = {
+             {L"Anna Weber", {L"anna@example.com", L"a.weber@work.example", L"", L"", L""}},
+             {L"Bob", {L"bob@example.com", L"BOB@example.com", L"not an address", L"", L""}}};
+         client.AgentAsksContactImport();
+         client.JournalListFiles();
+     }},
     {L"The user switches the add-in off from the drop-down",
      [](SimulatedMailClient& client, SimulatedMailbox&) {
          client.ClickDropDownEntry(Orva::Plugin::DropDownEntry::OnOff);

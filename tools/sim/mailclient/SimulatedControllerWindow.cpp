@@ -19,7 +19,8 @@ namespace Message = Orva::Plugin::ControllerMessage;
 SimulatedControllerWindow::SimulatedControllerWindow(
     SimulatedProcess& process, SimulatedMessageLoop& loop, Orva::Settings::SettingsStore& settings,
     Orva::Plugin::CAgentLink& agent, ZelResourceStringLoader& strings,
-    const std::wstring& installFile, Orva::MailStore::IMailStoreFactory& store)
+    const std::wstring& installFile, Orva::MailStore::IMailStoreFactory& store,
+    const std::wstring& dataFolder)
     : m_process(process),
       m_loop(loop),
       m_strings(strings, installFile, process.profile),
@@ -31,12 +32,13 @@ SimulatedControllerWindow::SimulatedControllerWindow(
       m_spamMailFolder({store, m_spamFolderStrings, settings, process.process, process.log,
                         Orva::MailStore::NoAccountManagerWatcher()}),
       m_spamFolder(m_spamMailFolder, process.log),
+      m_importingDialogs(m_dialogs, process, m_strings, dataFolder),
       m_controller(
           Orva::Plugin::ControllerPorts{process.messaging, process.clock, m_shutdownDone, m_hook,
                                         m_shell, m_keyboard, process.process, process.debugger,
                                         m_os, m_host, process.version, process.log},
-          Orva::Plugin::ControllerParts{m_ribbon, m_classic, m_spamFolder, m_account, m_dialogs,
-                                        m_strings, settings, agent},
+          Orva::Plugin::ControllerParts{m_ribbon, m_classic, m_spamFolder, m_account,
+                                        m_importingDialogs, m_strings, settings, agent},
           m_calls) {
     ZelCommon::Fakes::FakeJournal* journal = &process.journal;
     for (ZelCommon::Fakes::JournalNotes* fake :

@@ -6,16 +6,17 @@
 #include <span>
 
 #include "ScriptedOsInfo.h"
+#include "SimulatedDialogs.h"
 #include "SimulatedMessageLoop.h"
 #include "SimulatedProcess.h"
 #include "mailstore/SpamFolderStrings.h"
 #include "mailstore/SpamMailFolder.h"
 #include "plugin/ORVA_WLMAApp.h"
-#include "settings/localisation/LoaderStrings.h"
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailStoreSpamFolder.h"
 #include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarController.h"
+#include "settings/localisation/LoaderStrings.h"
 #include "support/fakes/platform/FakeSystemPorts.h"
 #include "support/fakes/plugin/FakePluginPorts.h"
 
@@ -33,7 +34,8 @@ public:
                               Orva::Settings::SettingsStore& settings,
                               Orva::Plugin::CAgentLink& agent, ZelResourceStringLoader& strings,
                               const std::wstring& installFile,
-                              Orva::MailStore::IMailStoreFactory& store);
+                              Orva::MailStore::IMailStoreFactory& store,
+                              const std::wstring& dataFolder);
     ~SimulatedControllerWindow() override;
     SimulatedControllerWindow(const SimulatedControllerWindow&) = delete;
     SimulatedControllerWindow& operator=(const SimulatedControllerWindow&) = delete;
@@ -71,6 +73,7 @@ private:
     Orva::MailStore::CSpamMailFolder m_spamMailFolder;
     Orva::Plugin::CMailStoreSpamFolder m_spamFolder;
     ZelCommon::Fakes::FakeCommandDialogs m_dialogs;
+    SimulatedDialogs m_importingDialogs;
     ZelCommon::Fakes::FakeControllerWindow m_calls;
     ZelCommon::Fakes::FakeEvent m_shutdownDone;
     ZelCommon::Fakes::FakeWindowProcedureHook m_hook;

@@ -7,6 +7,9 @@
 
 #include "common_src/platform/Path.h"
 #include "common_src/platform/WideFormat.h"
+#include "lists/ListBackup.h"
+#include "lists/SenderListSet.h"
+#include "lists/SenderLists.h"
 #include "plugin/protocol/AgentProtocol.h"
 #include "plugin/protocol/ControllerProtocol.h"
 
@@ -39,7 +42,7 @@ SimulatedMailClient::SimulatedMailClient(int mailClientVersion, AccountKind defa
               m_paths.addinFolder),
       m_strings(m_process.StringServices()),
       m_window(m_process, m_loop, m_settings, m_agent, m_strings, m_paths.installFile,
-               mailbox.Store()),
+               mailbox.Store(), m_paths.userFolder),
       m_app(ApplicationParts{m_process.process, m_process.debugger, m_process.log, m_paths,
                              m_settings, m_agent, m_strings, m_window}) {
     m_process.profile.SetJournal(&m_process.journal);
@@ -153,6 +156,41 @@ void SimulatedMailClient::ClickDropDownEntry(int32_t entry) {
         m_process.journal.Add(L"no toolbar: there is no drop-down to open");
     }
     Settle();
+}
+
+void SimulatedMailClient::AgentAsksContactImport() {
+    m_process.messaging.Post(m_process.messaging.FindByClass(std::wstring(kControllerClassName)),
+                             ControllerMessage::ImportContacts, 0, 0);
+    Settle();
+}
+
+void SimulatedMailClient::SetBlockedSenders(const std::vector<std::wstring>& addresses) {
+    ZelCommon::Path::CreateFolderWithParents(m_paths.userFolder);
+    Orva::Lists::CBListSet blocked;
+    for (const std::wstring& address : addresses) {
+        blocked.Add(address.c_str(), {L"", address});
+    }
+    blocked.SaveTo(Orva::Lists::BlockedListPath(m_paths.userFolder));
+}
+
+void SimulatedMailClient::JournalListFiles() {
+    const Orva::Lists::SenderListPaths paths = Orva::Lists::SenderListPathsIn(m_paths.userFolder);
+    const auto describe = [this](const wchar_t* name, const auto& set) {
+        std::wstring entry =
+            ZelCommon::Text::Format(L"%s holds %u:", name, static_cast<unsigned>(set.Count()));
+        for (const Orva::Lists::SenderEntry& sender : set.Entries()) {
+            entry += L" " + sender.address;
+        }
+        m_process.journal.Add(entry);
+    };
+    Orva::Lists::CWListSet approved;
+    approved.Load(paths.approved);
+    describe(L"WhiteList.dat", approved);
+    for (const std::wstring& path : {paths.blocked, Orva::Lists::BackupPathOf(paths.blocked)}) {
+        Orva::Lists::CBListSet blocked;
+        blocked.Load(path);
+        describe(std::wstring(ZelCommon::Path::FileNameOf(path)).c_str(), blocked);
+    }
 }
 
 void SimulatedMailClient::ShutDown() {

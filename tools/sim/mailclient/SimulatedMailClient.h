@@ -46,6 +46,12 @@ public:
     void SuiteWindowGoes();
     // An entry of the logo's drop-down (0 settings ... 4 about); the ribbon is journaled after.
     void ClickDropDownEntry(int32_t entry);
+    // The agent asks the controller to import the user's contacts (4032).
+    void AgentAsksContactImport();
+    // The user's blocked list, as an earlier session left it.
+    void SetBlockedSenders(const std::vector<std::wstring>& addresses);
+    // What the user's list files hold, one journal entry each.
+    void JournalListFiles();
     // The host reports the shut-down, then unloads the add-in.
     void ShutDown();
 

@@ -17,6 +17,7 @@
 #include "support/fakes/platform/FakeSystemPorts.h"
 #include "support/fakes/platform/FakeWindowMessaging.h"
 #include "support/fakes/platform/JournalDebuggerOutput.h"
+#include "support/fakes/plugin/FakeContacts.h"
 #include "support/fakes/plugin/FakePluginPorts.h"
 
 namespace Orva::Sim {
@@ -53,6 +54,8 @@ public:
     ZelCommon::Fakes::FakeLocale locale;
     JournalingProfileApi profile;
     ZelCommon::Fakes::FakeMailClientVersion version;
+    // The user's address book, which the contact import reads.
+    ZelCommon::Fakes::FakeContacts contacts;
 
 private:
     void StartAgent();
