@@ -159,13 +159,15 @@ void CSenderListEditor::MarkChanged(SenderList list) {
     (list == SenderList::Approved ? m_approvedChanged : m_blockedChanged) = true;
 }
 
-SaveOutcome CSenderListEditor::Save() {
+SaveOutcome CSenderListEditor::Save(SaveScope scope) {
     SaveOutcome outcome;
-    if (m_approvedChanged) {
+    const bool both =
+        scope == SaveScope::BothWhenEitherChanged && (m_approvedChanged || m_blockedChanged);
+    if (m_approvedChanged || both) {
         outcome.approved = m_approved.SaveTo(m_paths.approved);
         m_approvedChanged = outcome.approved != ListSave::Saved;
     }
-    if (m_blockedChanged) {
+    if (m_blockedChanged || both) {
         outcome.blocked = m_blocked.SaveTo(m_paths.blocked);
         m_blockedChanged = outcome.blocked != ListSave::Saved;
     }

@@ -67,6 +67,8 @@ struct ImportOutcome {
     bool applied = false;    // whether the list took the new addresses
 };
 
+enum class SaveScope { Changed, BothWhenEitherChanged };
+
 struct SaveOutcome {
     // Nothing for a list that did not change.
     std::optional<ListSave> approved;
@@ -106,9 +108,10 @@ public:
 
     // Whether the list changed since it was loaded or saved.
     bool Changed(SenderList list) const;
-    // Writes the lists that changed, never over a file whose load was refused, then tells the
-    // agent if any file was written.
-    SaveOutcome Save();
+    // Writes the lists that changed, or both when either changed (the pages keep the two files
+    // in step), never over a file whose load was refused; then tells the agent if any file was
+    // written.
+    SaveOutcome Save(SaveScope scope = SaveScope::Changed);
 
 private:
     template <class Run>

@@ -226,7 +226,7 @@ bool CSenderPageModel::Import(WindowHandle owner) {
                  BoxStyle::kYesNo | BoxStyle::kIconQuestion) != BoxAnswer::Yes) {
             return false;
         }
-        editor.Save();
+        editor.Save(Lists::SaveScope::BothWhenEitherChanged);
     }
     m_ports.contacts.RunContactImport(owner);
     m_services.agent.Notify(Plugin::AgentMessage::SenderListsChanged);
@@ -246,7 +246,7 @@ void CSenderPageModel::Apply() {
     }
     Lists::CSenderListEditor& editor = m_lists.editor;
     if (editor.Changed(SenderList::Approved) || editor.Changed(SenderList::Blocked)) {
-        editor.Save();
+        editor.Save(Lists::SaveScope::BothWhenEitherChanged);
     }
     if (m_kind.approvedExtras) {
         m_services.settings.SetFlag(SettingId::AutoApprove, m_autoApprove);

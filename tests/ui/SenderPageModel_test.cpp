@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "SenderPageRig.h"
 #include "support/FileBytes.h"
 #include "ui/ApproveMailList.h"
@@ -177,6 +179,18 @@ TEST(SenderPageModel, RefusedListFile_ReadOnlyWithItsNote_NeverWrittenOver) {
     rig.sheet.ApplyAll();
     EXPECT_EQ(Testing::ReadFileBytes(rig.paths.approved), foreign);
     EXPECT_EQ(rig.BlockedFile(), Strings{L"a@x.com"});
+}
+
+// The agent reads the two files as one state, so an OK writes both even when one list changed.
+TEST(SenderPageModel, OkAfterAnAddToOneList_WritesBothFiles) {
+    Testing::SenderPageRig rig;
+    rig.Open();
+    rig.user.entries = {SenderFields{L"", L"a@x.com"}};
+    ASSERT_TRUE(rig.sheet.ApprovedSenders().Add(0));
+    rig.sheet.ApplyAll();
+    EXPECT_EQ(rig.ApprovedFile(), Strings{L"a@x.com"});
+    EXPECT_TRUE(std::filesystem::exists(rig.paths.blocked));
+    EXPECT_EQ(rig.BlockedFile(), Strings{});
 }
 
 TEST(SenderPageModel, OpeningAndOk_BrandedNote_AutoApproveWrittenWithoutTellingTheAgent) {
