@@ -139,6 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
         DamagedCase{"SignOnly", L"Mid\t1\t-\t+", L"Mid", Group(true, {})},
         DamagedCase{"EmptyName", L"\t1\t5", L"", EncodingGroup{}},
         DamagedCase{"Blank", L"", L"", EncodingGroup{}},
+        DamagedCase{"TabsOnly", L"\t\t\t", L"", EncodingGroup{}},
         DamagedCase{"RepeatOfAlpha", L"Alpha\t0\t3", L"", EncodingGroup{}}),
     [](const auto& test) { return std::string(test.param.label); });
 
