@@ -121,30 +121,39 @@ private:
     std::wstring m_install;
 };
 
+// What a sheet is opened with: the full data folder's settings, and no agent, texts or user.
+struct SheetServices {
+    Orva::Ui::CFilteringSheetModel NewSheet() {
+        return {
+            services, {folder.Settings(), folder.Data(), folder.Data(), L""}, {user, user, user}};
+    }
+
+    FullDataFolder folder;
+    Orva::Settings::SettingsStore settings{ZelCommon::Storage::SystemProfileApi(),
+                                           {folder.Install(), folder.Settings(), L"", false}};
+    NoWindows windows;
+    Orva::Plugin::CAgentNotices agent{windows};
+    NoStrings strings;
+    NoDebugger debugger;
+    ZelCommon::Library::DebugLog log{ZelCommon::Platform::SystemClock(),
+                                     ZelCommon::Platform::SystemProcessContext(), debugger};
+    Orva::Ui::PageServices services{settings, agent, strings, log};
+    NoUser user;
+};
+
 // Opening the sheet as far as its data goes: both sender lists, the three settings pages and
 // the blocked encodings, from a fresh sheet each time.
 void BM_SheetOpen(benchmark::State& state) {
-    const FullDataFolder folder;
-    Orva::Settings::SettingsStore settings(ZelCommon::Storage::SystemProfileApi(),
-                                           {folder.Install(), folder.Settings(), L"", false});
-    NoWindows windows;
-    Orva::Plugin::CAgentNotices agent(windows);
-    NoStrings strings;
-    NoDebugger debugger;
-    ZelCommon::Library::DebugLog log(ZelCommon::Platform::SystemClock(),
-                                     ZelCommon::Platform::SystemProcessContext(), debugger);
-    Orva::Ui::PageServices services{settings, agent, strings, log};
-    NoUser user;
+    SheetServices rig;
     std::size_t entries = 0;
     for (auto _ : state) {
-        Orva::Ui::CFilteringSheetModel sheet(
-            services, {folder.Settings(), folder.Data(), folder.Data(), L""}, {user, user, user});
+        Orva::Ui::CFilteringSheetModel sheet = rig.NewSheet();
         sheet.SetUp();
         sheet.SpamDetection().Load();
         sheet.LinkFilter().Load();
         sheet.Advanced().Load();
         Orva::Lists::CEncodingSet encodings;
-        encodings.Load(Orva::Lists::EncodingsPath(folder.Data()));
+        encodings.Load(Orva::Lists::EncodingsPath(rig.folder.Data()));
         entries = sheet.Approved().Count() + sheet.Blocked().Count();
         benchmark::DoNotOptimize(entries + encodings.Groups().size());
     }
@@ -155,21 +164,10 @@ BENCHMARK(BM_SheetOpen)->Unit(benchmark::kMillisecond);
 // The approved page's first showing over a full list: the lists read, the page's texts and
 // settings, and its rows sorted by name, ready for the list view.
 void BM_ApprovedPageOpen(benchmark::State& state) {
-    const FullDataFolder folder;
-    Orva::Settings::SettingsStore settings(ZelCommon::Storage::SystemProfileApi(),
-                                           {folder.Install(), folder.Settings(), L"", false});
-    NoWindows windows;
-    Orva::Plugin::CAgentNotices agent(windows);
-    NoStrings strings;
-    NoDebugger debugger;
-    ZelCommon::Library::DebugLog log(ZelCommon::Platform::SystemClock(),
-                                     ZelCommon::Platform::SystemProcessContext(), debugger);
-    Orva::Ui::PageServices services{settings, agent, strings, log};
-    NoUser user;
+    SheetServices rig;
     std::size_t rows = 0;
     for (auto _ : state) {
-        Orva::Ui::CFilteringSheetModel sheet(
-            services, {folder.Settings(), folder.Data(), folder.Data(), L""}, {user, user, user});
+        Orva::Ui::CFilteringSheetModel sheet = rig.NewSheet();
         sheet.SetUp();
         Orva::Ui::CSenderPageModel& page = sheet.ApprovedSenders();
         page.Load(0);
