@@ -30,6 +30,22 @@ void ClearSelection(HWND list) {
     }
 }
 
+// The header's arrow on the column the rows are sorted by, pointing the way they run.
+void MarkSortColumn(HWND list, const CSenderRows& rows) {
+    const HWND header = ListView_GetHeader(list);
+    const int sorted = rows.Column() == SortColumn::Address ? 0 : 1;
+    for (int column = 0; column < Header_GetItemCount(header); ++column) {
+        HDITEMW item{};
+        item.mask = HDI_FORMAT;
+        Header_GetItem(header, column, &item);
+        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+        if (column == sorted) {
+            item.fmt |= rows.Ascending() ? HDF_SORTUP : HDF_SORTDOWN;
+        }
+        Header_SetItem(header, column, &item);
+    }
+}
+
 }  // namespace
 
 CSenderListPage::CSenderListPage(CSenderPageModel& model, PageServices& services)
@@ -107,6 +123,7 @@ void CSenderListPage::ShowRows() {
     const HWND list = Item(IDC_LIST_VIEW);
     const CSenderRows& rows = m_model.Rows();
     ListView_SetItemCountEx(list, static_cast<int>(rows.Count()), LVSICF_NOSCROLL);
+    MarkSortColumn(list, rows);
     ClearSelection(list);
     const std::vector<size_t> selected = rows.SelectedRows();
     for (const size_t row : selected) {

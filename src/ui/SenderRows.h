@@ -20,6 +20,8 @@ public:
 
     // A second click on the same column reverses the order; another column starts ascending.
     void SortBy(SortColumn column);
+    SortColumn Column() const { return m_column; }
+    bool Ascending() const { return m_ascending; }
 
     size_t Count() const { return m_order.size(); }
     const Lists::SenderEntry& At(size_t row) const { return m_entries[m_order[row]]; }
