@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -144,6 +145,9 @@ void CBitmapSlider::MoveByUser(int position) {
 }
 
 LRESULT CBitmapSlider::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (const std::optional<LRESULT> painted = PaintMessage(message, wParam)) {
+        return *painted;
+    }
     const HWND window = Handle();
     switch (message) {
         case WM_GETDLGCODE:
@@ -183,19 +187,6 @@ LRESULT CBitmapSlider::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_CAPTURECHANGED:
             m_dragging = false;
-            return 0;
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_PAINT: {
-            PAINTSTRUCT paint{};
-            if (const HDC dc = ::BeginPaint(window, &paint)) {
-                Paint(dc);
-                ::EndPaint(window, &paint);
-            }
-            return 0;
-        }
-        case WM_PRINTCLIENT:
-            Paint(reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_SETFOCUS:
         case WM_KILLFOCUS:

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <exception>
+#include <optional>
 #include <utility>
 
 #include "settings/log/DebugLog.h"
@@ -87,6 +88,32 @@ protected:
     }
 
     void OnWindowGone() {}
+
+    // Paints a control drawn whole by the add-in: WM_PAINT (into wParam's context when a
+    // common control is asked to paint there) and WM_PRINTCLIENT through Derived::Paint(HDC),
+    // and no erasing, which would flicker. Nothing for other messages.
+    std::optional<LRESULT> PaintMessage(UINT message, WPARAM wParam) {
+        auto& self = static_cast<Derived&>(*this);
+        switch (message) {
+            case WM_ERASEBKGND:
+                return 1;
+            case WM_PAINT:
+                if (wParam == 0) {
+                    PAINTSTRUCT paint{};
+                    if (const HDC dc = ::BeginPaint(m_window, &paint)) {
+                        self.Paint(dc);
+                        ::EndPaint(m_window, &paint);
+                    }
+                    return 0;
+                }
+                [[fallthrough]];
+            case WM_PRINTCLIENT:
+                self.Paint(reinterpret_cast<HDC>(wParam));
+                return 0;
+            default:
+                return std::nullopt;
+        }
+    }
 
     // The client coordinates of a mouse message (windowsx.h's GET_X_LPARAM and GET_Y_LPARAM).
     static POINT MousePoint(LPARAM lParam) {

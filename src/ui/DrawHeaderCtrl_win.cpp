@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <array>
+#include <optional>
 
 #include "ui/MemDC_win.h"
 
@@ -52,29 +53,10 @@ void CDrawHeaderCtrl::UnsubclassWindow() {
 }
 
 LRESULT CDrawHeaderCtrl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    const HWND header = Handle();
-    switch (message) {
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_PAINT: {
-            // Common controls take a context in wParam to paint into instead of the screen.
-            if (wParam != 0) {
-                Paint(reinterpret_cast<HDC>(wParam));
-                return 0;
-            }
-            PAINTSTRUCT paint{};
-            if (const HDC dc = ::BeginPaint(header, &paint)) {
-                Paint(dc);
-                ::EndPaint(header, &paint);
-            }
-            return 0;
-        }
-        case WM_PRINTCLIENT:
-            Paint(reinterpret_cast<HDC>(wParam));
-            return 0;
-        default:
-            return CallOriginal(message, wParam, lParam);
+    if (const std::optional<LRESULT> painted = PaintMessage(message, wParam)) {
+        return *painted;
     }
+    return CallOriginal(message, wParam, lParam);
 }
 
 void CDrawHeaderCtrl::Paint(HDC target) {

@@ -1,6 +1,7 @@
 #include "ui/StaticEx_win.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "settings/log/DebugLog.h"
 
@@ -92,6 +93,9 @@ void CStaticEx::OnWindowGone() {
 }
 
 LRESULT CStaticEx::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (const std::optional<LRESULT> painted = PaintMessage(message, wParam)) {
+        return *painted;
+    }
     const HWND window = Handle();
     switch (message) {
         case WM_NCHITTEST:
@@ -119,19 +123,6 @@ LRESULT CStaticEx::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         }
         case WM_LBUTTONDBLCLK:
-            return 0;
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_PAINT: {
-            PAINTSTRUCT paint{};
-            if (const HDC dc = ::BeginPaint(window, &paint)) {
-                Paint(dc);
-                ::EndPaint(window, &paint);
-            }
-            return 0;
-        }
-        case WM_PRINTCLIENT:
-            Paint(reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_SETTEXT:
         case WM_ENABLE: {
