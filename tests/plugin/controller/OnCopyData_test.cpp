@@ -12,8 +12,9 @@
 
 #include "plugin/controller/ControllerRig.h"
 
-namespace Orva::Testing {
 namespace {
+
+using Orva::Testing::ControllerRig;
 
 // The agent's record: folder id, message id (little-endian 64-bit each), the flag byte.
 std::vector<std::byte> Record(uint64_t folderId, uint64_t messageId, uint8_t flag) {
@@ -176,4 +177,3 @@ TEST(ControllerCopyData, SecondRequestFromAnotherThread_WaitsForTheFirstToFinish
 }
 
 }  // namespace
-}  // namespace Orva::Testing
