@@ -21,13 +21,6 @@ const std::wstring kNoticeSent = LogEntry(
 const std::wstring kRetry =
     LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
 
-void Built(ControllerRig& rig) {
-    rig.Dispatch(4029);
-}
-void BuiltWithAgent(ControllerRig& rig) {
-    Built(rig);
-    rig.AddAgent();
-}
 void SwitchedOff(ControllerRig& rig) {
     BuiltWithAgent(rig);
     rig.Dispatch(kOnOff.message, kOnOff.wParam, kOnOff.lParam);

@@ -22,9 +22,6 @@ const std::vector<std::wstring> kReleased = {L"host UnadviseInitSink", L"host Re
                                              L"store release", L"host UninitializeCom",
                                              L"strings release"};
 
-void Built(ControllerRig& rig) {
-    rig.Dispatch(4029);
-}
 std::function<void(ControllerRig&)> UnadviseThrows(FakeHostObjects::Throw kind,
                                                    const char* text = "") {
     return [kind, text](ControllerRig& rig) { rig.host.ThrowOnUnadvise(kind, text); };

@@ -107,9 +107,6 @@ TEST(ControllerBuildUI, Version_DecidesWhatIsBuilt) {
     });
 }
 
-void Built(ControllerRig& rig) {
-    rig.Dispatch(kBuildUi.message);
-}
 void BuiltWithMainWindow(ControllerRig& rig) {
     Built(rig);
     rig.messaging.AddWindow(L"Windows Live Mail", kMainWindowClass);

@@ -14,13 +14,6 @@ const std::wstring kOut = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  OUT")
 const std::wstring kUnknown = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton, Unknow parameter");
 
 // The ribbon is built: group 101, logo 102, report spam 108, not spam 109.
-void Built(ControllerRig& rig) {
-    rig.Dispatch(4029);
-}
-void BuiltWithAgent(ControllerRig& rig) {
-    Built(rig);
-    rig.AddAgent();
-}
 void BuiltWithAgentWhileSuiteBusy(ControllerRig& rig) {
     BuiltWithAgent(rig);
     rig.AddSuite();
