@@ -63,15 +63,22 @@ TEST_F(ZelResourceStringLoaderTest, ModuleName_EveryMailClientVariantPassesTheRe
     }
 }
 
-TEST_F(ZelResourceStringLoaderTest, EmptySection_FailsWithoutLookingForATable) {
-    WriteTable(L"en-US", L"IDS_OK", L"OK");
+// An empty section name fails before any table is looked for; a table without the section fails
+// as a read error.
+TEST_F(ZelResourceStringLoaderTest, EmptyOrMissingSection_Fails) {
+    WriteTable(L"en-US", L"IDS_OK", L"OK", L"OTHER_CONSUMER");
     ZelResourceStringLoader loader(Services());
     TakeLines();
 
     EXPECT_FALSE(loader.Initialize(L""));
-
     EXPECT_FALSE(loader.Succeeded());
     EXPECT_THAT(TakeLines(), ElementsAre(L"*** Error: Length of _tszSectionName is zero."));
+
+    EXPECT_FALSE(loader.Initialize(L"ORVA_WLM"));
+    EXPECT_EQ(TakeLines().back(),
+              L"*** Error occurred!! Read stringTable failed. Lang.: [en-US], "
+              L"File: [" +
+                  TableOf(L"en-US") + L"]");
 }
 
 // The fall-back chain: the system locale's table, else the primary language's, else English.
@@ -159,19 +166,6 @@ TEST_F(ZelResourceStringLoaderTest, LanguageMap_DecidesTheLocaleWithEnglishForUn
                             ResourceFolder() + L"LanguageMap.ini]",
                         L"<LanguageMap.ini> Matched Locale Name " + std::wstring(row.matchLine)}));
     }
-}
-
-TEST_F(ZelResourceStringLoaderTest, TableWithoutTheSection_FailsAsAReadError) {
-    WriteTable(L"en-US", L"IDS_OK", L"OK", L"OTHER_CONSUMER");
-    ZelResourceStringLoader loader(Services());
-    TakeLines();
-
-    EXPECT_FALSE(loader.Initialize(L"ORVA_WLM"));
-
-    EXPECT_EQ(TakeLines().back(),
-              L"*** Error occurred!! Read stringTable failed. Lang.: [en-US], "
-              L"File: [" +
-                  TableOf(L"en-US") + L"]");
 }
 
 // Escaped line breaks become real ones, other backslashes stay, and a long text comes whole.
