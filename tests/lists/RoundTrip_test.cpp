@@ -65,6 +65,8 @@ void ExpectEveryAddableEntryRoundTrips(const std::wstring& fileName) {
     Set reloaded;
     reloaded.Load(path);
     EXPECT_EQ(set.Entries(), reloaded.Entries());
+    EXPECT_FALSE(set.WildcardKeys().empty());
+    EXPECT_EQ(set.WildcardKeys(), reloaded.WildcardKeys());
     reloaded.Save(path);
     EXPECT_EQ(firstBytes, Testing::ReadFileBytes(path));
 }

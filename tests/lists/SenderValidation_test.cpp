@@ -75,18 +75,6 @@ INSTANTIATE_TEST_SUITE_P(
                     SenderCheck::Accepted, k256.substr(0, 250) + L"@b.com"}),
     [](const auto& test) { return std::string(test.param.label); });
 
-TEST(MessageForAddResult, NamesWhatThePageShows) {
-    const AddMessage full = MessageForAddResult(kAddFull);
-    EXPECT_EQ(L"IDS_LISTFULL_MSG", full.messageId);
-    EXPECT_EQ(L"IDS_WARNING_CAPTION", full.captionId);
-    EXPECT_EQ(8000, full.number);
-    const AddMessage existed = MessageForAddResult(kAddExisted);
-    EXPECT_EQ(L"IDS_LISTEXISTED_MSG", existed.messageId);
-    EXPECT_EQ(L"IDS_WARNING_CAPTION", existed.captionId);
-    EXPECT_EQ(0, existed.number);
-    EXPECT_TRUE(MessageForAddResult(kAddAdded).messageId.empty());
-}
-
 // What a refusal shows: the address is checked before the name, the lengths before the pattern.
 TEST(SenderValidation, Refusals_NameTheirMessageCaptionAndLimit) {
     const struct {

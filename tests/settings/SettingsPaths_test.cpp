@@ -77,31 +77,12 @@ TEST(MakeSettingsPaths, BuildsEveryPathFromTheThreeFacts) {
     EXPECT_EQ(paths.versionFile, Native(L"C:/ProgramData/ORVA_common/ORVA_version.ini"));
 }
 
-TEST(AddinFolderOf, KeepsTheFinalSeparator) {
-    EXPECT_EQ(AddinFolderOf(Native(L"C:/Program Files/Orva/ORVA_WLMA.dll")),
-              Native(L"C:/Program Files/Orva/"));
-}
-
-TEST(ComputeSettingsPaths, NoIdentity_UsesTheDefaultUserFolder) {
+// The add-in's folder keeps its final separator; the user's folder is named by the identity.
+TEST(ComputeSettingsPaths, ModuleFolderDataFolderAndIdentity_GiveThePaths) {
     Testing::TempFolder temp;
     ZelCommon::Fakes::FakeProcessContext process;
     process.SetModuleFilePath(temp.File(L"ORVA_WLMA.dll"));
     process.SetCommonAppDataFolder(temp.Folder(L"data"));
-    MemoryRegistry registry;
-
-    const SettingsPaths paths = ComputeSettingsPaths(process, registry);
-
-    EXPECT_EQ(paths.addinFolder, temp.Path());
-    EXPECT_EQ(paths.userFolder, temp.Path() + Native(L"data/Halvion/WLM/Users/Default/"));
-    EXPECT_TRUE(CreateSettingsFolders(paths));
-    EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.dataRoot));
-}
-
-TEST(ComputeSettingsPaths, LastUserId_NamesTheUserFolder) {
-    Testing::TempFolder temp;
-    ZelCommon::Fakes::FakeProcessContext process;
-    process.SetModuleFilePath(temp.File(L"ORVA_WLMA.dll"));
-    process.SetCommonAppDataFolder(temp.Path());
     MemoryRegistry registry;
     {
         ZelCommon::Storage::Registry key(registry);
@@ -111,8 +92,11 @@ TEST(ComputeSettingsPaths, LastUserId_NamesTheUserFolder) {
 
     const SettingsPaths paths = ComputeSettingsPaths(process, registry);
 
+    EXPECT_EQ(paths.addinFolder, temp.Path());
     EXPECT_EQ(paths.identity, L"{8E4C}");
-    EXPECT_EQ(paths.userFile, temp.Path() + Native(L"Halvion/WLM/Users/{8E4C}/ORVA_WLM.ini"));
+    EXPECT_EQ(paths.userFile, temp.Path() + Native(L"data/Halvion/WLM/Users/{8E4C}/ORVA_WLM.ini"));
+    EXPECT_TRUE(CreateSettingsFolders(paths));
+    EXPECT_TRUE(ZelCommon::Path::FolderExists(paths.userFolder));
 }
 
 // Without the common application-data folder nothing of the add-in's may land anywhere, least

@@ -300,17 +300,5 @@ TEST_F(RegistryStore, CloseReopenAndDestructor_ReleaseTheHandle) {
     EXPECT_EQ(ThrownCode([&] { store.Flush(); }), 6u);
 }
 
-TEST_F(RegistryStore, CharArrayOverloads_ActAsTheMainForms) {
-    Registry store(m_memory);
-    store.Create(RegRoot::CurrentUser, kPath, 0);
-    Base& base = store;
-    const wchar_t* name = L"plain";
-    base.SetString(name, L"v");
-    EXPECT_EQ(base.GetString(name, L""), L"v");
-    base.DeleteValue(name);
-    EXPECT_EQ(ThrownCode([&] { base.GetString(name, L""); }), 2u);
-    EXPECT_EQ(ThrownCode([&] { base.DeleteValue(name); }), 2u);
-}
-
 }  // namespace
 }  // namespace ZelCommon::Storage

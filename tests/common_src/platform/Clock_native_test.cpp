@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <ctime>
 
 #include "common_src/platform/Clock.h"
@@ -20,12 +19,6 @@ TEST(SystemClockNative, Now_AgreesWithLocaltime) {
     EXPECT_EQ(now.dayOfWeek, local.tm_wday);
     EXPECT_EQ(now.hour, local.tm_hour);
     EXPECT_LT(now.milliseconds, 1000);
-}
-
-TEST(SystemClockNative, Sleep_WaitsThatLong) {
-    const auto start = std::chrono::steady_clock::now();
-    SystemClock().Sleep(60);
-    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(60));
 }
 
 }  // namespace

@@ -7,10 +7,6 @@
 namespace ZelCommon::Platform {
 namespace {
 
-TEST(LocaleWin, SystemDefault_IsWhatWindowsSays) {
-    EXPECT_EQ(SystemLocale().SystemDefaultLcid(), ::GetSystemDefaultLCID());
-}
-
 TEST(LocaleWin, PrimaryLanguage_MatchesTheWindowsMacros) {
     for (const uint32_t lcid : {0x0409u, 0x0807u, 0x0C07u, 0x0411u, 0x1009u}) {
         EXPECT_EQ(PrimaryLanguageOf(lcid), PRIMARYLANGID(LANGIDFROMLCID(lcid))) << lcid;

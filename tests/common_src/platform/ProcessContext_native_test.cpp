@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -13,11 +11,6 @@ namespace {
 
 using ZelCommon::Platform::SystemDebuggerOutput;
 using ZelCommon::Platform::SystemProcessContext;
-
-TEST(SystemProcessContextNative, Ids_AreThoseOfTheProcessAndThread) {
-    EXPECT_EQ(SystemProcessContext().ProcessId(), static_cast<uint32_t>(::getpid()));
-    EXPECT_EQ(SystemProcessContext().ThreadId(), static_cast<uint32_t>(::gettid()));
-}
 
 TEST(SystemProcessContextNative, ModuleFilePath_IsTheRunningProgram) {
     const std::wstring path = SystemProcessContext().ModuleFilePath();

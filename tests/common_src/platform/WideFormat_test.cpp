@@ -242,14 +242,8 @@ TEST(WideFormat, TableOfFormats_MatchWindowsRuntime) {
     }
 }
 
-struct MismatchRow {
-    const wchar_t* format;
-    std::vector<FormatArg> args;
-    const wchar_t* expected;
-};
-
 TEST(WideFormat, MismatchedOrMissingArguments_PrintNothingForThem) {
-    const std::vector<MismatchRow> rows = {
+    const std::vector<Row> rows = {
         {L"[%d]", {}, L"[]"},         {L"[%d %d]", {1}, L"[1 ]"},
         {L"[%s]", {42}, L"[]"},       {L"[%s]", {"narrow"}, L"[]"},
         {L"[%S]", {L"wide"}, L"[]"},  {L"[%d]", {L"text"}, L"[]"},
@@ -258,7 +252,7 @@ TEST(WideFormat, MismatchedOrMissingArguments_PrintNothingForThem) {
         {L"[%10s]", {}, L"[]"},       {L"[%s|%d]", {L"a", L"b"}, L"[a|]"},
         {L"[%d]", {1, 2, 3}, L"[1]"},
     };
-    for (const MismatchRow& row : rows) {
+    for (const Row& row : rows) {
         EXPECT_EQ(FormatV(row.format, row.args), std::wstring(row.expected))
             << "format: " << ZelCommon::Text::WideToUtf8(row.format);
     }

@@ -180,6 +180,15 @@ struct ControllerRig {
     ZelCommon::Platform::WindowHandle controllerWindow = 0;
 };
 
+// The arrangements most scenarios start from: the user interface built, the agent running.
+inline void Built(ControllerRig& rig) {
+    rig.Dispatch(4029);
+}
+inline void BuiltWithAgent(ControllerRig& rig) {
+    Built(rig);
+    rig.AddAgent();
+}
+
 // A message to the controller window, or with `mainWindow` set, to the procedure that
 // subclasses the mail client's main window.
 struct Sent {

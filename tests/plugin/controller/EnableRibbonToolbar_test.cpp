@@ -5,15 +5,8 @@
 #include "plugin/controller/ControllerRig.h"
 #include "plugin/controller/RibbonToolbar.h"
 
+namespace Orva::Testing {
 namespace {
-
-using Orva::Testing::AgentEntry;
-using Orva::Testing::Answer;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::Journal;
-using Orva::Testing::LogEntry;
-using Orva::Testing::Sent;
-using Orva::Testing::Times;
 
 const Sent kOnOff{4031, static_cast<uintptr_t>(intptr_t{-1}), 2};
 const std::wstring kClickIn = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  IN");
@@ -28,13 +21,6 @@ const std::wstring kNoticeSent = LogEntry(
 const std::wstring kRetry =
     LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
 
-void Built(ControllerRig& rig) {
-    rig.Dispatch(4029);
-}
-void BuiltWithAgent(ControllerRig& rig) {
-    Built(rig);
-    rig.AddAgent();
-}
 void SwitchedOff(ControllerRig& rig) {
     BuiltWithAgent(rig);
     rig.Dispatch(kOnOff.message, kOnOff.wParam, kOnOff.lParam);
@@ -49,7 +35,7 @@ void ExpectFlag(ControllerRig& rig, bool enabled, std::optional<std::wstring> st
 // again when it is gone) and restores them; the flag is saved each time. While the companion
 // suite is busy only the flag in memory changes.
 TEST(ControllerSwitch, OnOff_SwitchesProtectionAndSavesTheFlag) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"off",
          BuiltWithAgent,
          {kOnOff},
@@ -133,3 +119,4 @@ TEST(ControllerSwitch, OnTheRibbon_StartOffThenSwitchTwice) {
 }
 
 }  // namespace
+}  // namespace Orva::Testing

@@ -5,14 +5,9 @@
 
 #include "plugin/controller/ControllerRig.h"
 
+namespace Orva::Testing {
 namespace {
 
-using Orva::Testing::Answer;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::Journal;
-using Orva::Testing::LogEntry;
-using Orva::Testing::Sent;
-using Orva::Testing::Times;
 using ZelCommon::Fakes::FakeHostObjects;
 
 const Sent kCreate{1};
@@ -27,9 +22,6 @@ const std::vector<std::wstring> kReleased = {L"host UnadviseInitSink", L"host Re
                                              L"store release", L"host UninitializeCom",
                                              L"strings release"};
 
-void Built(ControllerRig& rig) {
-    rig.Dispatch(4029);
-}
 std::function<void(ControllerRig&)> UnadviseThrows(FakeHostObjects::Throw kind,
                                                    const char* text = "") {
     return [kind, text](ControllerRig& rig) { rig.host.ThrowOnUnadvise(kind, text); };
@@ -39,7 +31,7 @@ std::function<void(ControllerRig&)> UnadviseThrows(FakeHostObjects::Throw kind,
 // unsubscribes the API sink, purges and signals; the close (WM_CLOSE) waits up to ten seconds
 // for that signal and releases the host whatever the host's objects throw.
 TEST(ControllerLifecycle, CreateShutdownAndClose) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"create",
          nullptr,
          {kCreate},
@@ -127,7 +119,7 @@ TEST(ControllerLifecycle, UnloadStillAdvised_UnadvisesBothSinksWithoutWaiting) {
 // messages: the agent's readiness, a folder selected (its id in two halves), the classic band's
 // own requests and the contacts import; unknown ones go to the default processing.
 TEST(ControllerMessages, EachMessage_DoesItsWork) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"ticks", nullptr, std::vector<Sent>(34, kTick),
          Journal({Times(23, {Answer(0)}),
                   {L"classic deferred", L"classic refresh", Answer(0)},
@@ -172,3 +164,4 @@ TEST(ControllerMessages, EachMessage_DoesItsWork) {
 }
 
 }  // namespace
+}  // namespace Orva::Testing

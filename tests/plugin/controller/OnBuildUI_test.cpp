@@ -5,16 +5,8 @@
 
 #include "plugin/controller/ControllerRig.h"
 
+namespace Orva::Testing {
 namespace {
-
-using Orva::Testing::AgentEntry;
-using Orva::Testing::Answer;
-using Orva::Testing::ControllerCase;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::Journal;
-using Orva::Testing::LogEntry;
-using Orva::Testing::Sent;
-using Orva::Testing::Times;
 
 const Sent kBuildUi{4029};
 const Sent kTimer{275, 1};
@@ -71,7 +63,7 @@ void ExpectDisabled(ControllerRig& rig) {
 // band; any other version stops the agent and builds nothing. "EnableTBar" switches off only when
 // it reads "0" once trimmed.
 TEST(ControllerBuildUI, Version_DecidesWhatIsBuilt) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"version 15", Version(15), {kBuildUi}, kRibbonBuilt},
         {"version 16", Version(16), {kBuildUi}, kRibbonBuilt},
         {"version 14",
@@ -115,9 +107,6 @@ TEST(ControllerBuildUI, Version_DecidesWhatIsBuilt) {
     });
 }
 
-void Built(ControllerRig& rig) {
-    rig.Dispatch(kBuildUi.message);
-}
 void BuiltWithMainWindow(ControllerRig& rig) {
     Built(rig);
     rig.messaging.AddWindow(L"Windows Live Mail", kMainWindowClass);
@@ -130,7 +119,7 @@ void Version14WithMainWindow(ControllerRig& rig) {
 // The timer looks for the main window until it is found (or the host named it), then stops;
 // with version 14 it first builds the classic band from the timer until the band is there.
 TEST(ControllerTimer, Ticks_FindTheMainWindowThenStop) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"the main window appears",
          BuiltWithMainWindow,
          {kTimer},
@@ -177,3 +166,4 @@ TEST(ControllerTimer, Ticks_FindTheMainWindowThenStop) {
 }
 
 }  // namespace
+}  // namespace Orva::Testing

@@ -4,12 +4,8 @@
 
 #include "plugin/controller/ControllerRig.h"
 
+namespace Orva::Testing {
 namespace {
-
-using Orva::Testing::AgentEntry;
-using Orva::Testing::Answer;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::LogEntry;
 
 constexpr uint32_t kClick = 4031;
 constexpr uintptr_t kEntries = static_cast<uintptr_t>(intptr_t{-1});
@@ -18,13 +14,6 @@ const std::wstring kOut = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  OUT")
 const std::wstring kUnknown = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton, Unknow parameter");
 
 // The ribbon is built: group 101, logo 102, report spam 108, not spam 109.
-void Built(ControllerRig& rig) {
-    rig.Dispatch(4029);
-}
-void BuiltWithAgent(ControllerRig& rig) {
-    Built(rig);
-    rig.AddAgent();
-}
 void BuiltWithAgentWhileSuiteBusy(ControllerRig& rig) {
     BuiltWithAgent(rig);
     rig.AddSuite();
@@ -34,7 +23,7 @@ void BuiltWithAgentWhileSuiteBusy(ControllerRig& rig) {
 // bits); on/off is the switch's own table. While the companion suite is busy only the logo
 // with Shift held still reaches the agent.
 TEST(ControllerClick, ButtonsAndEntries_DoTheirCommand) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"report spam",
          BuiltWithAgent,
          {{kClick, 101, 108}},
@@ -108,3 +97,4 @@ TEST(ControllerClick, ButtonsAndEntries_DoTheirCommand) {
 }
 
 }  // namespace
+}  // namespace Orva::Testing

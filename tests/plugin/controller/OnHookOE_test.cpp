@@ -4,12 +4,8 @@
 
 #include "plugin/controller/ControllerRig.h"
 
+namespace Orva::Testing {
 namespace {
-
-using Orva::Testing::Answer;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::LogEntry;
-using Orva::Testing::Sent;
 
 constexpr uintptr_t kMain = 0x7700;
 constexpr uintptr_t kOriginal = 0x1234;
@@ -40,7 +36,7 @@ void Hooked(ControllerRig& rig) {
 // it back on Windows 6 only. The add-in's procedure passes everything on, and on WM_CLOSE tears
 // the classic band down and gives the window its own procedure back first.
 TEST(ControllerHook, HookUnhookAndTheMainWindowsMessages) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"first hook",
          MainWindow,
          {kHook, ToMain(0x0F)},
@@ -118,3 +114,4 @@ TEST(ControllerHook, HookUnhookAndTheMainWindowsMessages) {
 }
 
 }  // namespace
+}  // namespace Orva::Testing

@@ -4,14 +4,8 @@
 
 #include "plugin/controller/ControllerRig.h"
 
+namespace Orva::Testing {
 namespace {
-
-using Orva::Testing::AgentEntry;
-using Orva::Testing::Answer;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::Journal;
-using Orva::Testing::LogEntry;
-using Orva::Testing::Times;
 
 constexpr uint32_t kReQuery = 4028;
 const std::wstring kIn = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  IN");
@@ -53,7 +47,7 @@ void Unsupported(ControllerRig& rig) {
 // unsupported account switches protection off (asking first unless told not to bother) and the
 // folder is still made.
 TEST(ControllerReQuery, Parameters_CheckTheAccountMakeTheFolderAndTellTheAgent) {
-    Orva::Testing::RunControllerCases({
+    RunControllerCases({
         {"switched off",
          [](ControllerRig& rig) {
              rig.SetEnableTBar(L"0");
@@ -146,3 +140,4 @@ TEST(ControllerReQuery, Parameters_CheckTheAccountMakeTheFolderAndTellTheAgent) 
 }
 
 }  // namespace
+}  // namespace Orva::Testing

@@ -1,21 +1,36 @@
 #pragma once
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
-#include "settings/probes/ProbeLog.h"
-#include "support/TempFolder.h"
 #include "common_src/ZelCommon/MemoryRegistry.h"
 #include "common_src/ZelCommon/ProfileApi.h"
 #include "common_src/ZelCommon/Registry.h"
-#include "support/fakes/platform/FakeLocale.h"
-#include "support/fakes/platform/FakeProcessContext.h"
 #include "common_src/platform/Path.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
+#include "settings/probes/ProbeLog.h"
+#include "support/TempFolder.h"
+#include "support/fakes/platform/FakeLocale.h"
+#include "support/fakes/platform/FakeProcessContext.h"
 
 namespace Orva::Testing {
+
+// The log lines hold `wanted` in this order, other lines between them allowed.
+MATCHER_P(HasInOrder, wanted, "holds " + testing::PrintToString(wanted) + " in this order") {
+    auto at = arg.begin();
+    for (const std::wstring& line : wanted) {
+        at = std::find(at, arg.end(), line);
+        if (at == arg.end()) {
+            return false;
+        }
+        ++at;
+    }
+    return true;
+}
 
 // An installed product in a temporary folder: the add-in module and its installation file in
 // "install/", the product key naming "install/" as the installation path, string tables under

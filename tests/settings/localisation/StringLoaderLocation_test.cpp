@@ -87,15 +87,13 @@ TEST_F(StringLoaderLocationTest, ResourceFolder_FollowsTheLanguageChoice) {
     TakeLines();
 
     EXPECT_EQ(loader.GetResFolderByAutoDetectLanguage(), ResourceFolder() + Native(L"de-DE/"));
-    const std::vector<std::wstring> lines = TakeLines();
-    ASSERT_EQ(lines.size(), 5u);
-    EXPECT_EQ(lines[2],
-              L"Start mapping primary language ID due to <de-AT> resource folder is not "
-              L"existed: [" +
-                  ResourceFolder() + Native(L"de-AT/]"));
-    EXPECT_EQ(lines[3], L"Primary language mapped result: [de-DE]");
-    EXPECT_EQ(lines[4],
-              L"Lang: [de-DE], Resource Folder: [" + ResourceFolder() + Native(L"de-DE/]"));
+    EXPECT_THAT(TakeLines(),
+                HasInOrder(std::vector<std::wstring>{
+                    L"Start mapping primary language ID due to <de-AT> resource folder is not "
+                    L"existed: [" +
+                        ResourceFolder() + Native(L"de-AT/]"),
+                    L"Primary language mapped result: [de-DE]",
+                    L"Lang: [de-DE], Resource Folder: [" + ResourceFolder() + Native(L"de-DE/]")}));
 }
 
 TEST_F(StringLoaderLocationTest, NoLocaleFolderAtAll_GivesNothing) {
@@ -104,16 +102,14 @@ TEST_F(StringLoaderLocationTest, NoLocaleFolderAtAll_GivesNothing) {
     TakeLines();
 
     EXPECT_EQ(loader.GetResFolderByAutoDetectLanguage(), L"");
-    const std::vector<std::wstring> lines = TakeLines();
-    ASSERT_EQ(lines.size(), 7u);
-    EXPECT_EQ(lines[4],
-              L"<ja-JP> Language not support!!\n Mapped primary language, but still "
-              L"not existed: [" +
-                  ResourceFolder() + Native(L"ja-JP/]"));
-    EXPECT_EQ(lines[5],
-              L"Using default language <en-US>: [" + ResourceFolder() + Native(L"en-US/]"));
-    EXPECT_EQ(lines[6], L"*** Error occurred!! Resource folder is not existed: [" +
-                            ResourceFolder() + Native(L"en-US/]"));
+    EXPECT_THAT(TakeLines(),
+                HasInOrder(std::vector<std::wstring>{
+                    L"<ja-JP> Language not support!!\n Mapped primary language, but still not "
+                    L"existed: [" +
+                        ResourceFolder() + Native(L"ja-JP/]"),
+                    L"Using default language <en-US>: [" + ResourceFolder() + Native(L"en-US/]"),
+                    L"*** Error occurred!! Resource folder is not existed: [" + ResourceFolder() +
+                        Native(L"en-US/]")}));
 }
 
 // The help parts as an administrator would register them.
@@ -170,11 +166,10 @@ TEST_F(OnlineHelpTest, LocaleWithoutTable_UsesEnglishWithTheShortMessages) {
 
     EXPECT_EQ(loader.GetORVA_OLH_URL(L"FunID_LINK_FILTER", L"ORVA_WLM.ini", L""),
               L"https://help.example/en-US/1700/link-filter.htm");
-    const std::vector<std::wstring> lines = TakeLines();
-    ASSERT_GE(lines.size(), 3u);
-    EXPECT_THAT(std::vector<std::wstring>(lines.end() - 3, lines.end()),
-                ElementsAre(L"Primary language mapped result: [ja-JP]",
-                            L"<ja-JP> Language not support!!", L"Using default language <en-US>"));
+    EXPECT_THAT(TakeLines(),
+                HasInOrder(std::vector<std::wstring>{L"Primary language mapped result: [ja-JP]",
+                                                     L"<ja-JP> Language not support!!",
+                                                     L"Using default language <en-US>"}));
 }
 
 TEST_F(OnlineHelpTest, BaseFolder_NamesWhereTheSettingsFileIs) {

@@ -83,10 +83,6 @@ std::optional<std::wstring> FakeProfileApi::Value(const std::wstring& section,
     return std::nullopt;
 }
 
-bool FakeProfileApi::HasSection(const std::wstring& section) const {
-    return Find(section) != nullptr;
-}
-
 uint32_t FakeProfileApi::GetString(const wchar_t* section, const wchar_t* key,
                                    const wchar_t* defaultValue, wchar_t* buffer, uint32_t size,
                                    const wchar_t* /*file*/) {

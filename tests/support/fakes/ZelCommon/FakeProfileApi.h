@@ -28,7 +28,6 @@ public:
 
     void Set(const std::wstring& section, const std::wstring& key, const std::wstring& value);
     std::optional<std::wstring> Value(const std::wstring& section, const std::wstring& key) const;
-    bool HasSection(const std::wstring& section) const;
     // Every later write fails with this Win32 error code (0 lets writes succeed again).
     void FailWritesWith(uint32_t error) { m_writeError = error; }
 

@@ -29,7 +29,6 @@ struct FakeMailStore::State {
     std::optional<StoreId> defaultAccount;
     // Beyond 32 bits, so that an id cut to 32 bits shows.
     StoreId nextFolderId = 0xA00000001000;
-    bool refuseCreation = false;
     std::vector<Script> scripts;
     std::map<StoreCall, int> calls;
     std::vector<Deletion> deletions;
@@ -114,9 +113,6 @@ public:
     }
     StoreId CreateSubFolder(const std::wstring& name) override {
         m_state->Enter(StoreCall::CreateSubFolder);
-        if (m_state->refuseCreation) {
-            return kNoFolderId;
-        }
         const StoreId id = m_state->nextFolderId++;
         m_state->folders[id] = {name, m_id, {}, {}};
         m_state->FolderOf(m_id).children.push_back(id);
@@ -238,10 +234,6 @@ StoreId FakeMailStore::AddFolder(StoreId parent, const std::wstring& name) {
 
 void FakeMailStore::AddMessage(StoreId folder, const std::wstring& headerText) {
     m_state->FolderOf(folder).messages.push_back({headerText, false});
-}
-
-void FakeMailStore::RefuseFolderCreation() {
-    m_state->refuseCreation = true;
 }
 
 void FakeMailStore::FailOn(StoreCall call, int32_t result, int occurrence) {

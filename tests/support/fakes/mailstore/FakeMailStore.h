@@ -56,8 +56,6 @@ public:
     void SetDefaultAccount(std::optional<StoreId> accountId);
     StoreId AddFolder(StoreId parent, const std::wstring& name);
     void AddMessage(StoreId folder, const std::wstring& headerText);
-    // Creating a folder answers kNoFolderId from now on.
-    void RefuseFolderCreation();
 
     // The `occurrence`-th call of `call` (counted from 1; 0: every call) throws StoreError.
     void FailOn(StoreCall call, int32_t result, int occurrence = 0);
