@@ -165,11 +165,11 @@ SaveOutcome CSenderListEditor::Save(SaveScope scope) {
         scope == SaveScope::BothWhenEitherChanged && (m_approvedChanged || m_blockedChanged);
     if (m_approvedChanged || both) {
         outcome.approved = m_approved.SaveTo(m_paths.approved);
-        m_approvedChanged = outcome.approved != ListSave::Saved;
+        m_approvedChanged = m_approvedChanged && outcome.approved != ListSave::Saved;
     }
     if (m_blockedChanged || both) {
         outcome.blocked = m_blocked.SaveTo(m_paths.blocked);
-        m_blockedChanged = outcome.blocked != ListSave::Saved;
+        m_blockedChanged = m_blockedChanged && outcome.blocked != ListSave::Saved;
     }
     // The agent rereads both files; it is told as soon as either changed on disk.
     if (outcome.approved == ListSave::Saved || outcome.blocked == ListSave::Saved) {

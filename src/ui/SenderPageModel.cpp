@@ -226,7 +226,16 @@ bool CSenderPageModel::Import(WindowHandle owner) {
                  BoxStyle::kYesNo | BoxStyle::kIconQuestion) != BoxAnswer::Yes) {
             return false;
         }
-        editor.Save(Lists::SaveScope::BothWhenEitherChanged);
+        const Lists::SaveOutcome saved = editor.Save(Lists::SaveScope::BothWhenEitherChanged);
+        const auto failed = [](const std::optional<Lists::ListSave>& save) {
+            return save && *save != Lists::ListSave::Saved;
+        };
+        // The reload after the import would throw away what could not be saved.
+        if (failed(saved.approved) || failed(saved.blocked)) {
+            m_services.log.LogText(
+                L"xxx CApproveSenderPage::OnImport() the lists could not be saved: no import");
+            return false;
+        }
     }
     m_ports.contacts.RunContactImport(owner);
     m_services.agent.Notify(Plugin::AgentMessage::SenderListsChanged);

@@ -132,6 +132,23 @@ TEST(SenderPageModel, ImportWithUnappliedChanges_NoDoesNothing_YesSavesImportsAn
     }
 }
 
+TEST(SenderPageModel, ImportAfterAFailedSave_DoesNotRunAndKeepsTheChanges) {
+    Testing::SenderPageRig rig;
+    rig.Open();
+    rig.user.entries = {SenderFields{L"", L"mine@x.com"}};
+    ASSERT_TRUE(rig.sheet.BlockedSenders().Add(0));
+    std::filesystem::create_directory(rig.paths.blocked);
+    rig.user.answers = {Yes};
+    bool imported = false;
+    rig.user.import = [&] { imported = true; };
+
+    EXPECT_FALSE(rig.sheet.ApprovedSenders().Import(0));
+    EXPECT_FALSE(imported);
+    rig.sheet.BlockedSenders().Refresh();
+    EXPECT_EQ(Shown(rig.sheet.BlockedSenders()), Strings{L"mine@x.com"});
+    EXPECT_TRUE(rig.sheet.BlockedSenders().Modified());
+}
+
 TEST(ApproveMailList, Separators_BlanksAndEmptyItems_AnyBadItemRefusesAll) {
     const std::pair<const wchar_t*, std::optional<Strings>> cases[] = {
         {L"", Strings{}},
