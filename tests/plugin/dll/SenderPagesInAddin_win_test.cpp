@@ -5,6 +5,7 @@
 
 #include "lists/SenderListSet.h"
 #include "plugin/dll/AddinRig_win.h"
+#include "support/AddressBook_win.h"
 #include "support/ModalDriver_win.h"
 #include "ui/DialogIds.h"
 
@@ -127,6 +128,67 @@ TEST_F(SenderPagesInAddin, AddEditByDoubleClickRemoveThenOk_FileWrittenAndAgentT
     EXPECT_TRUE(Testing::PumpMessagesUntil([&] {
         return AgentRecord().find("posted 1033 0 0") != std::string::npos;
     })) << AgentRecord();
+}
+
+constexpr CLSID kContactsClass = {
+    0x3f0b5a63, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x43}};
+
+// The Import button runs the import over the host's contacts while the sheet stays open: the
+// addresses are saved and shown at once, the blocked list that the import empties is kept as
+// its backup, and the agent is told, whatever the sheet's own answer.
+TEST_F(SenderPagesInAddin, ImportButton_ContactsSavedAndShown_BlockedListKept) {
+    const std::wstring blockedFile = (approvedFile.parent_path() / L"BlackList.dat").wstring();
+    {
+        Lists::CBListSet blocked;
+        blocked.Add(L"spam@example.com", {L"", L"spam@example.com"});
+        blocked.Save(blockedFile);
+    }
+    Testing::AddressBook book;
+    book.contacts = {Testing::Contact(L"Ann", L"ann@work.example"),
+                     Testing::Contact(L"Bo", L"bo@work.example")};
+    const RegisteredObject contacts(L"NktWLMailApiContacts.ContactManager", kContactsClass,
+                                    *book.manager.Get());
+    ASSERT_TRUE(StartAddin()) << LogText();
+
+    const std::string stopped = RunAfterClick(
+        kSettingsEntry, {{"approved page",
+                          [this] {
+                              sheet = Testing::FindPropertySheet();
+                              if (sheet != nullptr) {
+                                  PropSheet_SetCurSel(sheet, nullptr, 2);
+                              }
+                              return sheet != nullptr && ListShows({});
+                          }},
+                         {"import",
+                          [this] {
+                              Testing::Click(FindDescendant(sheet, IDC_BUTTON_IMPORT_CONTACTS));
+                              return true;
+                          }},
+                         {"sheet Cancel", [this] {
+                              if (!ListShows({L"ann@work.example", L"bo@work.example"})) {
+                                  return false;
+                              }
+                              Testing::Click(::GetDlgItem(sheet, IDCANCEL));
+                              return true;
+                          }}});
+
+    EXPECT_EQ(stopped, "") << LogText();
+    EXPECT_TRUE(Testing::PumpMessagesUntil([] { return Testing::FindPropertySheet() == nullptr; }));
+    Lists::CWListSet approved;
+    approved.Load(approvedFile.wstring());
+    EXPECT_EQ(approved.Entries(), (std::vector<Lists::SenderEntry>{{L"Ann", L"ann@work.example"},
+                                                                   {L"Bo", L"bo@work.example"}}));
+    Lists::CBListSet blocked;
+    Lists::CBListSet kept;
+    EXPECT_EQ(blocked.Load(blockedFile), Lists::ListLoad::Loaded);
+    EXPECT_EQ(blocked.Count(), 0u);
+    kept.Load(blockedFile + L".bak");
+    EXPECT_TRUE(kept.Find(L"spam@example.com"));
+    EXPECT_TRUE(Testing::PumpMessagesUntil([&] {
+        return AgentRecord().find("posted 1033 0 0") != std::string::npos;
+    })) << AgentRecord();
+    ::DeleteFileW(blockedFile.c_str());
+    ::DeleteFileW((blockedFile + L".bak").c_str());
 }
 
 }  // namespace
