@@ -149,6 +149,7 @@ TEST(CreateSpamMailFolder, StoreFailure_ReturnsZeroAndKeepsWhatWasKnown) {
         {StoreCall::NextSibling, false, L"scripted store failure"},
         {StoreCall::FolderName, false, L"scripted store failure"},
         {StoreCall::CreateSubFolder, false, L"scripted store failure"},
+        {StoreCall::CreateSubFolder, true, L"The spam mail folder could not be created"},
     };
     for (const FailureCase& c : cases) {
         SCOPED_TRACE(static_cast<int>(c.call));

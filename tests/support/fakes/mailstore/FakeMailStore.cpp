@@ -112,7 +112,9 @@ public:
         return at == siblings.end() || ++at == siblings.end() ? nullptr : Make(*at);
     }
     StoreId CreateSubFolder(const std::wstring& name) override {
-        m_state->Enter(StoreCall::CreateSubFolder);
+        if (m_state->Enter(StoreCall::CreateSubFolder)) {
+            return kNoFolderId;
+        }
         const StoreId id = m_state->nextFolderId++;
         m_state->folders[id] = {name, m_id, {}, {}};
         m_state->FolderOf(m_id).children.push_back(id);
