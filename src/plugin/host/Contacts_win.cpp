@@ -7,27 +7,18 @@
 
 #include "common_src/platform/TextCodec.h"
 #include "common_src/win32/LateBoundCall_win.h"
+#include "plugin/host/HostCall_win.h"
 #include "plugin/host/HostContract_win.h"
 
 namespace Orva::Plugin {
 namespace {
 
 using Microsoft::WRL::ComPtr;
-using ZelCommon::Win32::ComCallError;
 using ZelCommon::Win32::Variant;
 namespace C = HostContract::Contacts;
 
 // Getters are asked as a method and a property at once (HostContract_win.h).
 constexpr WORD kGetter = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
-
-template <class Call>
-auto HostCall(Call call) {
-    try {
-        return call();
-    } catch (const ComCallError& error) {
-        throw HostCallError(error.what());
-    }
-}
 
 Variant Get(IDispatch* object, std::wstring_view member) {
     return HostCall([&] { return ZelCommon::Win32::Invoke(object, member, kGetter, {}); });

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "common_src/win32/LateBoundCall_win.h"
+#include "plugin/host/HostCall_win.h"
 #include "plugin/host/HostContract_win.h"
 #include "plugin/host/HostEventSinks_win.h"
 #include "plugin/host/HostObjects.h"
@@ -14,18 +15,7 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 using ZelCommon::Win32::CallMethod;
-using ZelCommon::Win32::ComCallError;
 namespace Method = HostContract::ToolbarMethod;
-
-// The host's failure, as the controller's parts know it.
-template <class Call>
-auto HostCall(Call call) {
-    try {
-        return call();
-    } catch (const ComCallError& error) {
-        throw HostCallError(error.what());
-    }
-}
 
 ComPtr<CSubButtonEventSink> EntrySink(int32_t entryEvent, CHostEventRelay& relay,
                                       ZelCommon::Library::DebugLog& log) {
