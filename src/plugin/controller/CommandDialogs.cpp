@@ -6,7 +6,7 @@ namespace Orva::Plugin {
 
 void CCommandDialogs::OpenOnlineHelp() {
     m_log.LogText(L"@@CToolBarBand::OnClickHelpMenuItem()");
-    Settings::OpenOnlineHelpTopic(L"FunID_SPAM_EMAIL_FILTER", m_loader, m_shell, m_log);
+    Settings::OpenOnlineHelpTopic(Settings::kSpamFilterHelpTopic, m_loader, m_shell, m_log);
 }
 
 }  // namespace Orva::Plugin

@@ -18,7 +18,7 @@
 
 namespace Orva::Plugin {
 
-CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
+CAddinDialogs::CAddinDialogs(const Parts& parts)
     : m_agent(parts.messaging),
       m_services{parts.settings, m_agent, parts.strings, parts.log},
       // The fourth path is kept beside the others for the pages; none reads it.
@@ -29,8 +29,7 @@ CAddinDialogs::CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt)
       m_messaging(parts.messaging),
       m_log(parts.log),
       m_windows([this](std::wstring_view topic) { OpenHelpTopic(topic); }),
-      m_editSender(m_boxes, parts.strings),
-      m_notYetBuilt(notYetBuilt) {}
+      m_editSender(m_boxes, parts.strings) {}
 
 void CAddinDialogs::OpenFilteringSheet() {
     Ui::OpenFilteringSheet(m_services, m_sheetPaths, {m_boxes, m_editSender, *this}, m_windows,

@@ -8,6 +8,7 @@
 #include "plugin/controller/ControllerParts.h"
 #include "settings/SettingsPaths.h"
 #include "settings/SettingsStore.h"
+#include "settings/localisation/OnlineHelpTopic.h"
 #include "settings/localisation/ZelResourceStringLoader.h"
 #include "settings/log/DebugLog.h"
 #include "ui/ContactImport.h"
@@ -20,10 +21,9 @@
 
 namespace Orva::Plugin {
 
-// The windows of the add-in that exist, in front of those still to come (`notYetBuilt`): the
-// filtering sheet, the statistics dialog, the About box and the unsupported-server notice, modal
-// over the mail client's main window, and the updates dialog, which the About box opens. The
-// approved-sender page starts the contact import through it.
+// The windows of the add-in: the filtering sheet, the statistics dialog, the About box and the
+// unsupported-server notice, modal over the mail client's main window, and the updates dialog,
+// which the About box opens. The approved-sender page starts the contact import through it.
 class CAddinDialogs final : public ICommandDialogs, public Ui::IContactImport {
 public:
     struct Parts {
@@ -36,13 +36,13 @@ public:
         ZelCommon::Library::DebugLog& log;
     };
 
-    CAddinDialogs(const Parts& parts, ICommandDialogs& notYetBuilt);
+    explicit CAddinDialogs(const Parts& parts);
 
     void SetMailClientWindow(ZelCommon::Platform::WindowHandle window) { m_mailClient = window; }
 
     void OpenFilteringSheet() override;
     void OpenStatistics() override;
-    void OpenOnlineHelp() override { m_notYetBuilt.OpenOnlineHelp(); }
+    void OpenOnlineHelp() override { OpenHelpTopic(Settings::kSpamFilterHelpTopic); }
     void OpenAbout() override;
     bool ShowUnsupportedServerNotice() override;
     // The agent's request (4032): the contacts into the approved list, over the mail client.
@@ -70,7 +70,6 @@ private:
     Ui::CSheetWindows m_windows;
     Ui::CMessageBoxes m_boxes;
     Ui::CEditSenderDialogs m_editSender;
-    ICommandDialogs& m_notYetBuilt;
     ZelCommon::Platform::WindowHandle m_mailClient = 0;
     // The import window answers messages while it runs, the agent's among them: a request
     // that comes meanwhile is dropped.

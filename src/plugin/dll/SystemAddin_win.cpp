@@ -33,10 +33,9 @@ CSystemController::CSystemController(HINSTANCE module, Orva::Settings::SettingsS
       m_ribbon(m_host->Toolbar(), m_strings, SystemProcessContext(),
                Orva::Settings::DefaultInstallFolder(), m_log),
       m_accountCheck({ZelCommon::Storage::SystemRegistryApi(), SystemProcessContext(), m_log}),
-      m_pending(m_log),
+      m_classicBand(m_log),
       m_addinDialogs(
-          {settings, paths, m_strings, strings, SystemShellOpen(), SystemWindowMessaging(), m_log},
-          m_pending),
+          {settings, paths, m_strings, strings, SystemShellOpen(), SystemWindowMessaging(), m_log}),
       m_dialogs(strings, SystemShellOpen(), m_addinDialogs, m_log),
       m_mailStore(Orva::MailStore::CreateSystemMailStore()),
       m_spamFolderLoader(Orva::Settings::SystemStringLoaderServices()),
@@ -54,7 +53,7 @@ bool CSystemController::Open() {
                         SystemShellOpen(), SystemKeyboard(), SystemProcessContext(),
                         SystemDebuggerOutput(), Orva::Settings::SystemOsInfo(), *m_host, m_version,
                         m_log},
-        ControllerParts{m_ribbon, m_pending, m_spamFolder, m_accountCheck, m_dialogs, m_strings,
+        ControllerParts{m_ribbon, m_classicBand, m_spamFolder, m_accountCheck, m_dialogs, m_strings,
                         m_settings, m_agent},
         m_log);
     return m_window != nullptr;

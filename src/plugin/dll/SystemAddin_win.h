@@ -11,11 +11,11 @@
 #include "mailstore/SpamMailFolder.h"
 #include "plugin/ORVA_WLMAApp.h"
 #include "plugin/agent/AgentLink.h"
+#include "plugin/controller/AbsentClassicBand.h"
 #include "plugin/controller/CommandDialogs.h"
 #include "plugin/controller/MailClientAccountCheck.h"
 #include "plugin/controller/MailClientVersion.h"
 #include "plugin/controller/MailStoreSpamFolder.h"
-#include "plugin/controller/PendingParts.h"
 #include "plugin/controller/RibbonToolbar.h"
 #include "plugin/controller/ToolBarWnd_win.h"
 #include "plugin/dll/AccountManagerWatcher_win.h"
@@ -60,7 +60,7 @@ private:
     Orva::Settings::CLoaderStrings m_strings;
     CRibbonToolbar m_ribbon;
     CMailClientAccountCheck m_accountCheck;
-    CPendingParts m_pending;
+    CAbsentClassicBand m_classicBand;
     CAddinDialogs m_addinDialogs;
     CCommandDialogs m_dialogs;
     // The spam folder on the host's store, with a string loader of its own.
