@@ -55,8 +55,8 @@ private:
     HelpOpener m_openHelp;
     CSpamDetectionPage m_spamDetection;
     CLinkFilter m_linkFilter;
-    CSenderListPage m_approved;
-    CSenderListPage m_blocked;
+    CApproveSenderPage m_approved;
+    CBlockSenderPage m_blocked;
     CBlockEncodingPage m_encodings;
     CAdvancedPage m_advanced;
     CDrawTabCtrl m_tabs;

@@ -27,14 +27,14 @@ ZelCommon::Platform::unique_hfont HeadlineFontFor(HWND panel, PageServices& serv
 
 }  // namespace
 
-CDefaultLevelPanel::CDefaultLevelPanel(CSpamDetectionPageModel& model, PageServices& services,
-                                       std::function<void()> customize)
+CDefaultLevel::CDefaultLevel(CSpamDetectionPageModel& model, PageServices& services,
+                             std::function<void()> customize)
     : CDialogWindow(IDD_DEFAULT_LEVEL),
       m_model(model),
       m_services(services),
       m_customize(std::move(customize)) {}
 
-bool CDefaultLevelPanel::OnInitDialog() {
+bool CDefaultLevel::OnInitDialog() {
     UseWhiteBackground();
     ApplyControlTexts(Handle(), DefaultLevelTexts(), m_services.strings);
     ExpandHeadline(Handle(), IDC_DEFAULT_TITLE, m_services);
@@ -51,12 +51,12 @@ bool CDefaultLevelPanel::OnInitDialog() {
     return true;
 }
 
-void CDefaultLevelPanel::ShowModel() {
+void CDefaultLevel::ShowModel() {
     m_slider.SetPosition(m_model.SliderPosition());
     SetChecked(IDC_CHECK_ENABLE_IN_THE_CLOUD, m_model.DefaultCloud());
 }
 
-bool CDefaultLevelPanel::OnCommand(int id, int code, HWND /*control*/) {
+bool CDefaultLevel::OnCommand(int id, int code, HWND /*control*/) {
     if (id == IDC_LEVEL_SLIDER && code == kSliderPositionChanged) {
         m_model.MoveSlider(m_slider.Position());
         return true;
@@ -72,16 +72,15 @@ bool CDefaultLevelPanel::OnCommand(int id, int code, HWND /*control*/) {
     return false;
 }
 
-CCustomLevelPanel::CCustomLevelPanel(CSpamDetectionPageModel& model, PageServices& services,
-                                     std::function<void()> customize,
-                                     std::function<void()> backToDefault)
+CCustomLevel::CCustomLevel(CSpamDetectionPageModel& model, PageServices& services,
+                           std::function<void()> customize, std::function<void()> backToDefault)
     : CDialogWindow(IDD_CUSTOM_LEVEL),
       m_model(model),
       m_services(services),
       m_customize(std::move(customize)),
       m_backToDefault(std::move(backToDefault)) {}
 
-bool CCustomLevelPanel::OnInitDialog() {
+bool CCustomLevel::OnInitDialog() {
     UseWhiteBackground();
     ApplyControlTexts(Handle(), CustomLevelTexts(), m_services.strings);
     ExpandHeadline(Handle(), IDC_CUSTOM_TITLE, m_services);
@@ -93,11 +92,11 @@ bool CCustomLevelPanel::OnInitDialog() {
     return true;
 }
 
-void CCustomLevelPanel::ShowModel() {
+void CCustomLevel::ShowModel() {
     SetChecked(IDC_CHECK_ENABLE_IN_THE_CLOUD, m_model.CustomCloud());
 }
 
-bool CCustomLevelPanel::OnCommand(int id, int code, HWND /*control*/) {
+bool CCustomLevel::OnCommand(int id, int code, HWND /*control*/) {
     if (code != BN_CLICKED) {
         return false;
     }

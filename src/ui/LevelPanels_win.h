@@ -14,10 +14,10 @@ namespace Orva::Ui {
 
 // The default-level panel of the spam-detection page: the slider, the cloud box, and the way
 // to the custom level.
-class CDefaultLevelPanel final : public CDialogWindow {
+class CDefaultLevel final : public CDialogWindow {
 public:
-    CDefaultLevelPanel(CSpamDetectionPageModel& model, PageServices& services,
-                       std::function<void()> customize);
+    CDefaultLevel(CSpamDetectionPageModel& model, PageServices& services,
+                  std::function<void()> customize);
     // Moves the slider and the box to what the model holds.
     void ShowModel();
 
@@ -33,10 +33,10 @@ private:
 };
 
 // The custom-level panel: the category dialog, the way back to the default level, the cloud box.
-class CCustomLevelPanel final : public CDialogWindow {
+class CCustomLevel final : public CDialogWindow {
 public:
-    CCustomLevelPanel(CSpamDetectionPageModel& model, PageServices& services,
-                      std::function<void()> customize, std::function<void()> backToDefault);
+    CCustomLevel(CSpamDetectionPageModel& model, PageServices& services,
+                 std::function<void()> customize, std::function<void()> backToDefault);
     void ShowModel();
 
 private:

@@ -45,4 +45,8 @@ private:
     ZelCommon::Platform::unique_hfont m_headlineFont;
 };
 
+// The two pages are one design with mirrored texts; their model tells them apart.
+using CApproveSenderPage = CSenderListPage;
+using CBlockSenderPage = CSenderListPage;
+
 }  // namespace Orva::Ui

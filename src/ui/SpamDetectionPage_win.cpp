@@ -1,6 +1,6 @@
 #include "ui/SpamDetectionPage_win.h"
 
-#include "ui/CategoryLevelDialog_win.h"
+#include "ui/CategoryLevel_win.h"
 #include "ui/DialogIds.h"
 
 namespace Orva::Ui {
@@ -41,7 +41,7 @@ bool CSpamDetectionPage::OnApply() {
 }
 
 void CSpamDetectionPage::Customize() {
-    CCategoryLevelDialog dialog(m_model.Categories(), m_services);
+    CCategoryLevel dialog(m_model.Categories(), m_services);
     if (dialog.RunModal(Handle()) == IDOK) {
         m_model.AcceptCategories(dialog.Positions());
         m_custom.ShowModel();

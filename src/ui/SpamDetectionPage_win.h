@@ -25,8 +25,8 @@ private:
 
     CSpamDetectionPageModel& m_model;
     PageServices& m_services;
-    CDefaultLevelPanel m_default;
-    CCustomLevelPanel m_custom;
+    CDefaultLevel m_default;
+    CCustomLevel m_custom;
 };
 
 }  // namespace Orva::Ui

@@ -14,9 +14,9 @@ namespace Orva::Ui {
 
 // The category levels, one combo box per kind of spam; OK keeps the choice for the page, which
 // writes it only on the sheet's OK.
-class CCategoryLevelDialog final : public CDialogWindow {
+class CCategoryLevel final : public CDialogWindow {
 public:
-    CCategoryLevelDialog(const CategoryPositions& positions, PageServices& services)
+    CCategoryLevel(const CategoryPositions& positions, PageServices& services)
         : CDialogWindow(IDD_CATEGORY_LEVEL), m_positions(positions), m_services(services) {}
 
     const CategoryPositions& Positions() const { return m_positions; }

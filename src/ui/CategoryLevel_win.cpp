@@ -1,4 +1,4 @@
-#include "ui/CategoryLevelDialog_win.h"
+#include "ui/CategoryLevel_win.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +9,7 @@
 
 namespace Orva::Ui {
 
-bool CCategoryLevelDialog::OnInitDialog() {
+bool CCategoryLevel::OnInitDialog() {
     const std::wstring caption = m_services.strings.LoadShown(L"IDS_CATEGORY_CAPTION");
     if (!caption.empty()) {
         ::SetWindowTextW(Handle(), caption.c_str());
@@ -38,7 +38,7 @@ bool CCategoryLevelDialog::OnInitDialog() {
     return true;
 }
 
-bool CCategoryLevelDialog::OnCommand(int id, int /*code*/, HWND /*control*/) {
+bool CCategoryLevel::OnCommand(int id, int /*code*/, HWND /*control*/) {
     if (id == IDOK) {
         size_t row = 0;
         for (const CategoryRow& category : CategoryRows()) {
