@@ -29,6 +29,16 @@ protected:
         }
         return shown == rows;
     }
+    // Waits for the sheet, turns to the approved page and waits for it to show `rows`.
+    CModalDriver::NamedStep ApprovedPageShows(std::vector<std::wstring> rows) {
+        return {"approved page", [this, rows] {
+                    sheet = Testing::FindPropertySheet();
+                    if (sheet != nullptr) {
+                        PropSheet_SetCurSel(sheet, nullptr, 2);
+                    }
+                    return sheet != nullptr && ListShows(rows);
+                }};
+    }
     // Types into the edit dialog once it shows `shown` as the address, and presses OK.
     static CModalDriver::NamedStep Type(std::wstring shown, std::wstring name,
                                         std::wstring address) {
@@ -63,14 +73,7 @@ TEST_F(SenderPagesInAddin, AddEditByDoubleClickRemoveThenOk_FileWrittenAndAgentT
     ASSERT_TRUE(StartAddin()) << LogText();
 
     const std::string stopped = RunAfterClick(
-        kSettingsEntry, {{"approved page",
-                          [this] {
-                              sheet = Testing::FindPropertySheet();
-                              if (sheet != nullptr) {
-                                  PropSheet_SetCurSel(sheet, nullptr, 2);
-                              }
-                              return sheet != nullptr && ListShows({L"old@example.com"});
-                          }},
+        kSettingsEntry, {ApprovedPageShows({L"old@example.com"}),
                          {"add",
                           [this] {
                               Testing::Click(FindDescendant(sheet, IDC_BUTTON_ADD_SENDER));
@@ -151,14 +154,7 @@ TEST_F(SenderPagesInAddin, ImportButton_ContactsSavedAndShown_BlockedListKept) {
     ASSERT_TRUE(StartAddin()) << LogText();
 
     const std::string stopped = RunAfterClick(
-        kSettingsEntry, {{"approved page",
-                          [this] {
-                              sheet = Testing::FindPropertySheet();
-                              if (sheet != nullptr) {
-                                  PropSheet_SetCurSel(sheet, nullptr, 2);
-                              }
-                              return sheet != nullptr && ListShows({});
-                          }},
+        kSettingsEntry, {ApprovedPageShows({}),
                          {"import",
                           [this] {
                               Testing::Click(FindDescendant(sheet, IDC_BUTTON_IMPORT_CONTACTS));
