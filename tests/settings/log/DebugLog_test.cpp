@@ -30,16 +30,9 @@ using ZelCommon::Library::FormatWhere;
 using ZelCommon::Library::ScopeTracer;
 
 // Text-mode files on Windows end their lines with CR LF.
-std::string OnDisk(std::string text) {
+std::string OnDisk(const std::string& text) {
 #ifdef _WIN32
-    std::string out;
-    for (const char c : text) {
-        if (c == '\n') {
-            out += '\r';
-        }
-        out += c;
-    }
-    return out;
+    return std::regex_replace(text, std::regex("\n"), "\r\n");
 #else
     return text;
 #endif
