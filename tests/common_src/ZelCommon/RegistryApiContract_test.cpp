@@ -70,6 +70,16 @@ Act QueryData(uint32_t length, bool withSize = true) {
                               withSize ? &size : nullptr);
     };
 }
+Act Flush() {
+    return [](IRegistryApi& api, RegHandle key) { return api.FlushKey(key); };
+}
+// Stores `bytes` under "raw" as a value of `type` (no data at all when empty).
+Act SetRaw(uint32_t type, std::vector<uint8_t> bytes) {
+    return [=](IRegistryApi& api, RegHandle key) {
+        return api.SetValue(key, L"raw", type, bytes.empty() ? nullptr : bytes.data(),
+                            static_cast<uint32_t>(bytes.size()));
+    };
+}
 // Enumerates the name at `index` into a buffer of `length` characters.
 Act EnumKey(uint32_t index, uint32_t length = 260) {
     return [=](IRegistryApi& api, RegHandle key) {
@@ -141,10 +151,7 @@ const StatusCase kStatusCases[] = {
     {"QueryOnDeletedKeyHandle", OnDeleted(L"empty", kQuery, QueryOf(L"v")), RegStatus::KeyDeleted},
     {"CreateBelowDeletedKeyHandle", OnDeleted(L"empty", kQuery, Create(L"new")),
      RegStatus::KeyDeleted},
-    {"FlushDeletedKey",
-     OnDeleted(L"empty", kQuery,
-               [](IRegistryApi& api, RegHandle key) { return api.FlushKey(key); }),
-     RegStatus::KeyDeleted},
+    {"FlushDeletedKey", OnDeleted(L"empty", kQuery, Flush()), RegStatus::KeyDeleted},
     {"SetOnDeletedKey", OnDeleted(L"empty", kSet, SetDword(L"d")), RegStatus::KeyDeleted},
     {"CloseDeletedKeyHandle",
      [](IRegistryApi& api, RegHandle base) {
@@ -157,20 +164,9 @@ const StatusCase kStatusCases[] = {
     {"QueryWithNoRightsAtAll", On(L"k", 0, QueryOf(L"v")), RegStatus::AccessDenied},
     {"QueryExistenceOnly", On(L"k", kQuery, QueryData(0, false)), RegStatus::Success},
     {"QueryDataWithoutSize", On(L"k", kQuery, QueryData(64, false)), RegStatus::InvalidParameter},
-    {"SetDwordOfThreeBytes",
-     [](IRegistryApi& api, RegHandle base) {
-         const uint8_t bytes[] = {1, 2, 3};
-         return api.SetValue(base, L"d3", RegType::Dword, bytes, 3);
-     },
-     RegStatus::Success},
-    {"SetEmptyBinary",
-     [](IRegistryApi& api, RegHandle base) {
-         return api.SetValue(base, L"none", RegType::Binary, nullptr, 0);
-     },
-     RegStatus::Success},
-    {"FlushOpenKey",
-     On(L"k", kQuery, [](IRegistryApi& api, RegHandle key) { return api.FlushKey(key); }),
-     RegStatus::Success},
+    {"SetDwordOfThreeBytes", SetRaw(RegType::Dword, {1, 2, 3}), RegStatus::Success},
+    {"SetEmptyBinary", SetRaw(RegType::Binary, {}), RegStatus::Success},
+    {"FlushOpenKey", On(L"k", kQuery, Flush()), RegStatus::Success},
     {"CloseRootKey",
      [](IRegistryApi& api, RegHandle) { return api.CloseKey(RootHandle(RegRoot::CurrentUser)); },
      RegStatus::Success},

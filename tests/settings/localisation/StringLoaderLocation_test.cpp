@@ -211,28 +211,22 @@ TEST_F(OnlineHelpTest, MissingPart_LogsTheStepAndGivesNothing) {
     }
 }
 
-struct JoinCase {
-    const wchar_t* site;
-    const wchar_t* page;
-    const wchar_t* expected;
-};
-
-class JoinHelpAddressTest : public testing::TestWithParam<JoinCase> {};
-
-TEST_P(JoinHelpAddressTest, SlashesAroundParts_GiveOneSlashBetweenThem) {
-    EXPECT_EQ(Settings::JoinHelpAddress(GetParam().site, L"en-US", L"1700", GetParam().page),
-              GetParam().expected);
+TEST(JoinHelpAddress, SlashesAroundParts_GiveOneSlashBetweenThem) {
+    const struct {
+        const wchar_t* site;
+        const wchar_t* page;
+        const wchar_t* expected;
+    } cases[] = {
+        {L"https://h.example", L"a.htm", L"https://h.example/en-US/1700/a.htm"},
+        {L"https://h.example/", L"a.htm", L"https://h.example/en-US/1700/a.htm"},
+        {L"https://h.example//", L"/a.htm", L"https://h.example/en-US/1700/a.htm"},
+        {L"https://h.example/help", L"x/a.htm", L"https://h.example/help/en-US/1700/x/a.htm"},
+    };
+    for (const auto& each : cases) {
+        EXPECT_EQ(Settings::JoinHelpAddress(each.site, L"en-US", L"1700", each.page),
+                  each.expected);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, JoinHelpAddressTest,
-                         testing::Values(JoinCase{L"https://h.example", L"a.htm",
-                                                  L"https://h.example/en-US/1700/a.htm"},
-                                         JoinCase{L"https://h.example/", L"a.htm",
-                                                  L"https://h.example/en-US/1700/a.htm"},
-                                         JoinCase{L"https://h.example//", L"/a.htm",
-                                                  L"https://h.example/en-US/1700/a.htm"},
-                                         JoinCase{L"https://h.example/help", L"x/a.htm",
-                                                  L"https://h.example/help/en-US/1700/x/a.htm"}));
 
 TEST(SplitRegistryLocation, LastBackslash_SeparatesKeyAndValue) {
     const Settings::RegistryLocation nested = Settings::SplitRegistryLocation(L"A\\B\\Value");
