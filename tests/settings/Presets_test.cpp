@@ -78,15 +78,6 @@ TEST(Presets, EmptyInstallFile_AppliesOnlyTheInstallDefaultsOfNotifyIconAndCloud
     }
 }
 
-TEST(Presets, UserWhoChoseBeforeTheFirstStart_StillGetsAnUnmarkedPreset) {
-    SettingsTestFiles t;
-    t.SetUserRaw(SettingId::AutoApprove, L"1");
-    t.SetInstall(SettingId::InstallAutoApprove, L"0");
-    ApplyPresets(t.store);
-    EXPECT_EQ(t.UserRaw(SettingId::AutoApprove), L"0");
-    EXPECT_EQ(t.UserRaw(SettingId::SettedAutoApprove), L"1");
-}
-
 // The report addresses live in sections of their own: one address applied does not mark another.
 TEST(Presets, ReportAddresses_EachMarkedInItsOwnSection) {
     SettingsTestFiles t;
@@ -99,21 +90,24 @@ TEST(Presets, ReportAddresses_EachMarkedInItsOwnSection) {
     EXPECT_EQ(t.UserRaw(SettingId::SettedReportPhishAddr), L"<missing>");
 }
 
-TEST(Presets, NonZeroMarker_OfAnyValueBlocksThePreset) {
+// Presets side by side, each on its own: one the user chose before the first start still
+// arrives while unmarked; a marker of any non-zero value blocks another; an installation value of
+// blanks only is trimmed to nothing and skipped.
+TEST(Presets, UnmarkedChoiceOverwritten_NonZeroMarkerBlocks_BlankValueSkipped) {
     SettingsTestFiles t;
+    t.SetUserRaw(SettingId::AutoApprove, L"1");
+    t.SetInstall(SettingId::InstallAutoApprove, L"0");
     t.SetInstall(SettingId::InstallAUServer, L"http://updates.corp.example/");
     t.SetUserRaw(SettingId::SettedAUUrl, L"7");
-    const auto results = ApplyPresets(t.store);
-    const PresetResult result = ResultOf(results, SettingId::AUServer);
-    EXPECT_EQ(result.outcome, PresetOutcome::AlreadyApplied);
-    EXPECT_EQ(result.installValue, L"http://updates.corp.example/");
-    EXPECT_EQ(t.UserRaw(SettingId::AUServer), L"<missing>");
-}
-
-TEST(Presets, BlankOnlyInstallValue_IsTrimmedToEmptyAndSkipped) {
-    SettingsTestFiles t;
     t.SetInstall(SettingId::InstallInterval, L"   ");
-    ApplyPresets(t.store);
+    const auto results = ApplyPresets(t.store);
+
+    EXPECT_EQ(t.UserRaw(SettingId::AutoApprove), L"0");
+    EXPECT_EQ(t.UserRaw(SettingId::SettedAutoApprove), L"1");
+    const PresetResult blocked = ResultOf(results, SettingId::AUServer);
+    EXPECT_EQ(blocked.outcome, PresetOutcome::AlreadyApplied);
+    EXPECT_EQ(blocked.installValue, L"http://updates.corp.example/");
+    EXPECT_EQ(t.UserRaw(SettingId::AUServer), L"<missing>");
     EXPECT_EQ(t.UserRaw(SettingId::Interval), L"<missing>");
     EXPECT_EQ(t.UserRaw(SettingId::SettedSecUpdateInterval), L"<missing>");
 }

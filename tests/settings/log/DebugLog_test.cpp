@@ -7,6 +7,7 @@
 #include <atomic>
 #include <filesystem>
 #include <functional>
+#include <numeric>
 #include <regex>
 #include <string>
 #include <thread>
@@ -171,10 +172,8 @@ TEST(DebugLog, Lines_AreHeadAndTextInTheFileAndForTheDebugger) {
         rig.log.OpenLog((rig.temp.Root() / "ORVAAgent.log").wstring());
         each.writes(rig.log, rig.clock, rig.process);
         EXPECT_EQ(ReadFileBytes(rig.temp.Root() / "ORVAAgent.20240131.log"), OnDisk(each.written));
-        std::wstring shown;
-        for (const std::wstring& text : rig.debugger.Texts()) {
-            shown += text;
-        }
+        const std::vector<std::wstring> texts = rig.debugger.Texts();
+        const std::wstring shown = std::accumulate(texts.begin(), texts.end(), std::wstring());
         EXPECT_EQ(OnDisk(ZelCommon::Text::WideToAnsi(shown)), OnDisk(each.written));
     }
 }
