@@ -41,19 +41,20 @@ TEST_F(MuiResourceTest, ModuleInTheFolder_IsLoadedSilently) {
     EXPECT_THAT(debugger.Texts(), IsEmpty());
 }
 
-// Without a folder, or without the module in it, the holder stays empty and the debugger is told.
-TEST_F(MuiResourceTest, NoFolderOrNoModule_TellsTheDebuggerAndKeepsAnEmptyHolder) {
-    for (const bool folderKnown : {false, true}) {
-        Fakes::FakeDebuggerOutput told;
-        const auto holder =
-            LoadMuiResource([&] { return folderKnown ? temp.Path() : std::wstring(); }, told);
+TEST_F(MuiResourceTest, NoResourceFolder_TellsTheDebuggerAndKeepsAnEmptyHolder) {
+    const auto holder = LoadMuiResource([] { return std::wstring(); }, debugger);
 
-        ASSERT_NE(holder, nullptr);
-        EXPECT_FALSE(holder->IsLoaded());
-        EXPECT_THAT(told.Texts(),
-                    ElementsAre(folderKnown ? L"Failed to load MUI resource"
-                                            : L"Failed to get mui resource folder path!!"));
-    }
+    ASSERT_NE(holder, nullptr);
+    EXPECT_FALSE(holder->IsLoaded());
+    EXPECT_THAT(debugger.Texts(), ElementsAre(L"Failed to get mui resource folder path!!"));
+}
+
+TEST_F(MuiResourceTest, FolderWithoutTheModule_TellsTheDebugger) {
+    const auto holder = LoadMuiResource([this] { return temp.Path(); }, debugger);
+
+    ASSERT_NE(holder, nullptr);
+    EXPECT_FALSE(holder->IsLoaded());
+    EXPECT_THAT(debugger.Texts(), ElementsAre(L"Failed to load MUI resource"));
 }
 
 TEST(ResourceHandle, MissingFile_LeavesNothingLoadedNotEvenTheOldModule) {
