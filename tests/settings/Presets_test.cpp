@@ -20,25 +20,18 @@ PresetResult ResultOf(const std::vector<PresetResult>& results, SettingId userKe
 }
 
 // Each preset goes from the installation file to the same section and key of the user's file,
-// with its marker beside it, in the deployment's order.
-TEST(Presets, EveryPreset_IsCopiedWithItsMarkerInTheDeploymentOrder) {
-    const SettingId order[] = {
-        SettingId::AUServer,        SettingId::EnableSchedule,     SettingId::Interval,
-        SettingId::UpdateUI,        SettingId::ProtectLevel,       SettingId::EnableInTheCloud,
-        SettingId::AutoApprove,     SettingId::NotifyIcon,         SettingId::AutoMoved,
-        SettingId::PurgeDays,       SettingId::DeleteDeleted,      SettingId::ReportSpamAddress,
-        SettingId::ReportFPAddress, SettingId::ReportPhishAddress,
-    };
+// with its marker beside it, in the order of the rules.
+TEST(Presets, EveryPreset_IsCopiedWithItsMarkerInTheRulesOrder) {
     SettingsTestFiles t;
     for (const PresetRule& rule : PresetRules()) {
         t.SetInstall(rule.installKey, L"v" + std::to_wstring(static_cast<int>(rule.installKey)));
     }
     const auto results = ApplyPresets(t.store);
-    ASSERT_EQ(results.size(), std::size(order));
+    ASSERT_EQ(results.size(), PresetRules().size());
     for (size_t i = 0; i < results.size(); ++i) {
         const PresetRule& rule = results[i].rule;
         SCOPED_TRACE(i);
-        EXPECT_EQ(rule.userKey, order[i]);
+        EXPECT_EQ(rule.userKey, PresetRules()[i].userKey);
         EXPECT_EQ(results[i].outcome, PresetOutcome::Applied);
         EXPECT_EQ(Entry(rule.installKey).file, SettingsFile::Install);
         EXPECT_EQ(Entry(rule.installKey).section, Entry(rule.userKey).section);
@@ -85,15 +78,6 @@ TEST(Presets, EmptyInstallFile_AppliesOnlyTheInstallDefaultsOfNotifyIconAndCloud
     }
 }
 
-TEST(Presets, UserWhoChoseBeforeTheFirstStart_StillGetsAnUnmarkedPreset) {
-    SettingsTestFiles t;
-    t.SetUserRaw(SettingId::AutoApprove, L"1");
-    t.SetInstall(SettingId::InstallAutoApprove, L"0");
-    ApplyPresets(t.store);
-    EXPECT_EQ(t.UserRaw(SettingId::AutoApprove), L"0");
-    EXPECT_EQ(t.UserRaw(SettingId::SettedAutoApprove), L"1");
-}
-
 // The report addresses live in sections of their own: one address applied does not mark another.
 TEST(Presets, ReportAddresses_EachMarkedInItsOwnSection) {
     SettingsTestFiles t;
@@ -106,21 +90,24 @@ TEST(Presets, ReportAddresses_EachMarkedInItsOwnSection) {
     EXPECT_EQ(t.UserRaw(SettingId::SettedReportPhishAddr), L"<missing>");
 }
 
-TEST(Presets, NonZeroMarker_OfAnyValueBlocksThePreset) {
+// Presets side by side, each on its own: one the user chose before the first start still
+// arrives while unmarked; a marker of any non-zero value blocks another; an installation value of
+// blanks only is trimmed to nothing and skipped.
+TEST(Presets, UnmarkedChoiceOverwritten_NonZeroMarkerBlocks_BlankValueSkipped) {
     SettingsTestFiles t;
+    t.SetUserRaw(SettingId::AutoApprove, L"1");
+    t.SetInstall(SettingId::InstallAutoApprove, L"0");
     t.SetInstall(SettingId::InstallAUServer, L"http://updates.corp.example/");
     t.SetUserRaw(SettingId::SettedAUUrl, L"7");
-    const auto results = ApplyPresets(t.store);
-    const PresetResult result = ResultOf(results, SettingId::AUServer);
-    EXPECT_EQ(result.outcome, PresetOutcome::AlreadyApplied);
-    EXPECT_EQ(result.installValue, L"http://updates.corp.example/");
-    EXPECT_EQ(t.UserRaw(SettingId::AUServer), L"<missing>");
-}
-
-TEST(Presets, BlankOnlyInstallValue_IsTrimmedToEmptyAndSkipped) {
-    SettingsTestFiles t;
     t.SetInstall(SettingId::InstallInterval, L"   ");
-    ApplyPresets(t.store);
+    const auto results = ApplyPresets(t.store);
+
+    EXPECT_EQ(t.UserRaw(SettingId::AutoApprove), L"0");
+    EXPECT_EQ(t.UserRaw(SettingId::SettedAutoApprove), L"1");
+    const PresetResult blocked = ResultOf(results, SettingId::AUServer);
+    EXPECT_EQ(blocked.outcome, PresetOutcome::AlreadyApplied);
+    EXPECT_EQ(blocked.installValue, L"http://updates.corp.example/");
+    EXPECT_EQ(t.UserRaw(SettingId::AUServer), L"<missing>");
     EXPECT_EQ(t.UserRaw(SettingId::Interval), L"<missing>");
     EXPECT_EQ(t.UserRaw(SettingId::SettedSecUpdateInterval), L"<missing>");
 }

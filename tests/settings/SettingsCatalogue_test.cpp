@@ -25,9 +25,11 @@ TEST(SettingsCatalogue, Rows_FollowTheirIdOrder) {
     }
 }
 
-// Each key has one place, found again by its file, section and key; the profile functions
-// compare names without case.
-TEST(SettingsCatalogue, EveryKey_HasOneSectionOfItsFile) {
+// Each key has one place, found again by its file, section and key (the profile functions
+// compare names without case); numeric defaults parse as their text; only the proxy switch is a
+// yes/no flag (what a written flag looks like is shown by the store's tests); the add-in writes
+// nothing of the installation file.
+TEST(SettingsCatalogue, EveryKey_HasOneSectionOfItsFileAndKeepsTheRowRules) {
     std::set<std::tuple<SettingsFile, std::wstring, std::wstring>> seen;
     for (const SettingEntry& entry : SettingsCatalogue()) {
         SCOPED_TRACE(Name(entry));
@@ -39,32 +41,15 @@ TEST(SettingsCatalogue, EveryKey_HasOneSectionOfItsFile) {
         EXPECT_TRUE(seen.insert({entry.file, ZelCommon::Text::ToLower(entry.section),
                                  ZelCommon::Text::ToLower(entry.key)})
                         .second);
+        if (entry.type != ValueType::String) {
+            EXPECT_EQ(std::to_wstring(entry.defaultNumber), entry.defaultText);
+        }
+        EXPECT_EQ(entry.form == ValueForm::YesNo, entry.id == SettingId::EnableProxy);
+        if (entry.file == SettingsFile::Install) {
+            EXPECT_EQ(entry.writer, Writer::Nobody);
+        }
     }
     EXPECT_EQ(FindSetting(SettingsFile::User, L"General", L"NoSuchKey"), std::nullopt);
-}
-
-TEST(SettingsCatalogue, NumericDefaults_ParseAsTheirText) {
-    for (const SettingEntry& entry : SettingsCatalogue()) {
-        if (entry.type != ValueType::String) {
-            EXPECT_EQ(std::to_wstring(entry.defaultNumber), entry.defaultText) << Name(entry);
-        }
-    }
-}
-
-// What a flag looks like when written is shown by the store's tests.
-TEST(SettingsCatalogue, OnlyTheProxySwitch_IsAYesNoFlag) {
-    for (const SettingEntry& entry : SettingsCatalogue()) {
-        EXPECT_EQ(entry.form == ValueForm::YesNo, entry.id == SettingId::EnableProxy)
-            << Name(entry);
-    }
-}
-
-TEST(SettingsCatalogue, InstallFileEntries_AreNeverWrittenByTheAddIn) {
-    for (const SettingEntry& entry : SettingsCatalogue()) {
-        if (entry.file == SettingsFile::Install) {
-            EXPECT_EQ(entry.writer, Writer::Nobody) << Name(entry);
-        }
-    }
 }
 
 }  // namespace

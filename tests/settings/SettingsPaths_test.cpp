@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "common_src/ZelCommon/MemoryRegistry.h"
@@ -22,11 +23,7 @@ using ZelCommon::Storage::MemoryRegistry;
 using ZelCommon::Storage::RegRoot;
 
 std::wstring Native(std::wstring path) {
-    for (wchar_t& c : path) {
-        if (c == L'/' || c == L'\\') {
-            c = kSeparator;
-        }
-    }
+    std::replace(path.begin(), path.end(), L'/', kSeparator);
     return path;
 }
 

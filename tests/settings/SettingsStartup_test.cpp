@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "common_src/ZelCommon/MemoryRegistry.h"
@@ -84,11 +85,9 @@ TEST_F(SettingsStartupTest, DebugOne_LogsThePresetsItApplies) {
 
     ASSERT_TRUE(logSwitchedOn);
     ASSERT_TRUE(log.IsLogOn());
-    bool sawPreset = false;
-    for (const std::wstring& line : debugger.Texts()) {
-        sawPreset = sawPreset || line.find(L"[General] PurgeDays=9 applied") != std::wstring::npos;
-    }
-    EXPECT_TRUE(sawPreset);
+    EXPECT_TRUE(std::ranges::any_of(debugger.Texts(), [](const std::wstring& line) {
+        return line.find(L"[General] PurgeDays=9 applied") != std::wstring::npos;
+    }));
 }
 
 }  // namespace

@@ -13,10 +13,7 @@ TEST(RecordAddinStart, CountsEachStartAndRecordsTheFileVersion) {
     EXPECT_EQ(RecordAddinStart(t.store, L"2.0.0.18"), 2);
     EXPECT_EQ(t.UserRaw(SettingId::ORVAStartTimes), L"2");
     EXPECT_EQ(t.UserRaw(SettingId::ORVAWLMVer), L"2.0.0.18");
-}
-
-TEST(RecordAddinStart, DamagedCount_StartsOverFromItsLeadingDigits) {
-    Testing::SettingsTestFiles t;
+    // A damaged count starts over from its leading digits.
     t.SetUserRaw(SettingId::ORVAStartTimes, L"41abc");
     EXPECT_EQ(RecordAddinStart(t.store, L"1"), 42);
     EXPECT_EQ(t.UserRaw(SettingId::ORVAStartTimes), L"42");

@@ -27,12 +27,9 @@ TEST(VersionFile, Write_PutsTheIdentificationInTheMachinesSection) {
         EXPECT_EQ(Read(file, section, L"type"), L"addin");
         EXPECT_EQ(Read(file, L"ORVA_OE", L"DeployVersion"), L"1.2.3.4");
         // Nothing else is written anywhere.
-        EXPECT_EQ(ZelCommon::Storage::ReadSectionNames(ZelCommon::Storage::SystemProfileApi(), file)
-                      .size(),
-                  windows64 ? 2u : 1u);
-        EXPECT_EQ(ZelCommon::Storage::ReadKeyNames(ZelCommon::Storage::SystemProfileApi(), file,
-                                                   L"ORVA_OE")
-                      .size(),
+        auto& api = ZelCommon::Storage::SystemProfileApi();
+        EXPECT_EQ(ZelCommon::Storage::ReadSectionNames(api, file).size(), windows64 ? 2u : 1u);
+        EXPECT_EQ(ZelCommon::Storage::ReadKeyNames(api, file, L"ORVA_OE").size(),
                   windows64 ? 1u : 4u);
     }
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <string>
@@ -85,7 +86,6 @@ TEST_F(ProfileEngineFiles, TemporaryFileCannotBeCreated_OldFileUnchangedAndFailu
     const std::filesystem::path path = m_folder.Root() / (std::string(246, 's') + ".ini");
     const std::string old = "[s]\r\nk=1\r\n";
     WriteFileBytes(path, old);
-    EXPECT_EQ(old, ReadFileBytes(path));
     EXPECT_FALSE(m_engine.WriteString(L"s", L"k", L"2", path.wstring().c_str()));
     EXPECT_NE(0u, m_engine.LastError());
     EXPECT_EQ(old, ReadFileBytes(path));
@@ -110,11 +110,8 @@ TEST_F(ProfileEngineFiles, ManyThreadsWriting_NoUpdateLost) {
     ProfileEngine fresh;
     std::vector<wchar_t> buffer(65536);
     const uint32_t length = fresh.GetSection(L"s", buffer.data(), 65536, m_file.c_str());
-    size_t lines = 0;
-    for (uint32_t i = 0; i < length; ++i) {
-        lines += buffer[i] == L'\0' ? 1u : 0u;
-    }
-    EXPECT_EQ(lines, static_cast<size_t>(kThreads * kKeysPerThread));
+    EXPECT_EQ(std::ranges::count(std::wstring_view(buffer.data(), length), L'\0'),
+              kThreads * kKeysPerThread);
 }
 
 TEST_F(ProfileEngineFiles, RandomBytes_NeverCrash) {

@@ -20,7 +20,6 @@ public:
     RegistrySandbox(const RegistrySandbox&) = delete;
     RegistrySandbox& operator=(const RegistrySandbox&) = delete;
 
-    IRegistryApi& Api() { return m_api; }
     RegHandle Key() const { return m_key.Get(); }
     // The sandbox's path below HKEY_CURRENT_USER.
     const std::wstring& Path() const { return m_path; }

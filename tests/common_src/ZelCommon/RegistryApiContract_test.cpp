@@ -61,6 +61,25 @@ Act DeleteKey(const wchar_t* name) {
 Act DeleteValue(const wchar_t* name) {
     return [=](IRegistryApi& api, RegHandle key) { return api.DeleteValue(key, name); };
 }
+// Queries "v" into a buffer of `length` bytes (no buffer for 0), giving the size only when asked.
+Act QueryData(uint32_t length, bool withSize = true) {
+    return [=](IRegistryApi& api, RegHandle key) {
+        std::vector<uint8_t> data(length);
+        uint32_t size = length;
+        return api.QueryValue(key, L"v", nullptr, length ? data.data() : nullptr,
+                              withSize ? &size : nullptr);
+    };
+}
+Act Flush() {
+    return [](IRegistryApi& api, RegHandle key) { return api.FlushKey(key); };
+}
+// Stores `bytes` under "raw" as a value of `type` (no data at all when empty).
+Act SetRaw(uint32_t type, std::vector<uint8_t> bytes) {
+    return [=](IRegistryApi& api, RegHandle key) {
+        return api.SetValue(key, L"raw", type, bytes.empty() ? nullptr : bytes.data(),
+                            static_cast<uint32_t>(bytes.size()));
+    };
+}
 // Enumerates the name at `index` into a buffer of `length` characters.
 Act EnumKey(uint32_t index, uint32_t length = 260) {
     return [=](IRegistryApi& api, RegHandle key) {
@@ -111,14 +130,7 @@ const StatusCase kStatusCases[] = {
     {"QueryOtherCaseName", On(L"k", kQuery, QueryOf(L"V")), RegStatus::Success},
     {"QueryMissingValue", On(L"k", kQuery, QueryOf(L"missing")), RegStatus::FileNotFound},
     {"QueryMissingDefaultValue", On(L"k", kQuery, QueryOf(nullptr)), RegStatus::FileNotFound},
-    {"QueryBufferTooSmall",
-     On(L"k", kQuery,
-        [](IRegistryApi& api, RegHandle key) {
-            uint8_t data[4];
-            uint32_t size = sizeof(data);
-            return api.QueryValue(key, L"v", nullptr, data, &size);
-        }),
-     RegStatus::MoreData},
+    {"QueryBufferTooSmall", On(L"k", kQuery, QueryData(4)), RegStatus::MoreData},
     {"SetWithoutSetRight", On(L"k", kQuery, SetDword(L"d")), RegStatus::AccessDenied},
     {"SetWithGenericReadOnly", On(L"k", kGenericRead, SetDword(L"d")), RegStatus::AccessDenied},
     {"DeleteValueWithoutSetRight", On(L"k", kQuery, DeleteValue(L"v")), RegStatus::AccessDenied},
@@ -139,10 +151,7 @@ const StatusCase kStatusCases[] = {
     {"QueryOnDeletedKeyHandle", OnDeleted(L"empty", kQuery, QueryOf(L"v")), RegStatus::KeyDeleted},
     {"CreateBelowDeletedKeyHandle", OnDeleted(L"empty", kQuery, Create(L"new")),
      RegStatus::KeyDeleted},
-    {"FlushDeletedKey",
-     OnDeleted(L"empty", kQuery,
-               [](IRegistryApi& api, RegHandle key) { return api.FlushKey(key); }),
-     RegStatus::KeyDeleted},
+    {"FlushDeletedKey", OnDeleted(L"empty", kQuery, Flush()), RegStatus::KeyDeleted},
     {"SetOnDeletedKey", OnDeleted(L"empty", kSet, SetDword(L"d")), RegStatus::KeyDeleted},
     {"CloseDeletedKeyHandle",
      [](IRegistryApi& api, RegHandle base) {
@@ -153,33 +162,11 @@ const StatusCase kStatusCases[] = {
      RegStatus::Success},
     {"DeleteKeyBelowQueryOnlyHandle", On(L"k", kQuery, DeleteKey(L"sub")), RegStatus::Success},
     {"QueryWithNoRightsAtAll", On(L"k", 0, QueryOf(L"v")), RegStatus::AccessDenied},
-    {"QueryExistenceOnly",
-     On(L"k", kQuery,
-        [](IRegistryApi& api, RegHandle key) {
-            return api.QueryValue(key, L"v", nullptr, nullptr, nullptr);
-        }),
-     RegStatus::Success},
-    {"QueryDataWithoutSize",
-     On(L"k", kQuery,
-        [](IRegistryApi& api, RegHandle key) {
-            uint8_t data[64];
-            return api.QueryValue(key, L"v", nullptr, data, nullptr);
-        }),
-     RegStatus::InvalidParameter},
-    {"SetDwordOfThreeBytes",
-     [](IRegistryApi& api, RegHandle base) {
-         const uint8_t bytes[] = {1, 2, 3};
-         return api.SetValue(base, L"d3", RegType::Dword, bytes, 3);
-     },
-     RegStatus::Success},
-    {"SetEmptyBinary",
-     [](IRegistryApi& api, RegHandle base) {
-         return api.SetValue(base, L"none", RegType::Binary, nullptr, 0);
-     },
-     RegStatus::Success},
-    {"FlushOpenKey",
-     On(L"k", kQuery, [](IRegistryApi& api, RegHandle key) { return api.FlushKey(key); }),
-     RegStatus::Success},
+    {"QueryExistenceOnly", On(L"k", kQuery, QueryData(0, false)), RegStatus::Success},
+    {"QueryDataWithoutSize", On(L"k", kQuery, QueryData(64, false)), RegStatus::InvalidParameter},
+    {"SetDwordOfThreeBytes", SetRaw(RegType::Dword, {1, 2, 3}), RegStatus::Success},
+    {"SetEmptyBinary", SetRaw(RegType::Binary, {}), RegStatus::Success},
+    {"FlushOpenKey", On(L"k", kQuery, Flush()), RegStatus::Success},
     {"CloseRootKey",
      [](IRegistryApi& api, RegHandle) { return api.CloseKey(RootHandle(RegRoot::CurrentUser)); },
      RegStatus::Success},

@@ -36,7 +36,6 @@ int32_t SetDwordValue(IRegistryApi& api, RegHandle key, const wchar_t* name, uin
     return api.SetValue(key, name, RegType::Dword, bytes, sizeof(bytes));
 }
 
-// Opens with the given access, runs one call on the handle, closes and returns the call's status.
 int32_t WithKey(IRegistryApi& api, RegHandle base, const wchar_t* path, uint32_t access,
                 const std::function<int32_t(RegHandle)>& call) {
     const RegHandle key = MustOpen(api, base, path, access);
@@ -69,12 +68,16 @@ int32_t CreateAndClose(IRegistryApi& api, RegHandle base, const wchar_t* path) {
     return status;
 }
 
-std::vector<std::wstring> KeyNames(IRegistryApi& api, RegHandle key) {
+namespace {
+
+using Enumerate = int32_t (IRegistryApi::*)(RegHandle, uint32_t, wchar_t*, uint32_t*);
+
+std::vector<std::wstring> Names(IRegistryApi& api, RegHandle key, Enumerate enumerate) {
     std::vector<std::wstring> names;
     for (uint32_t index = 0;; ++index) {
         wchar_t name[260];
         uint32_t length = 260;
-        const int32_t status = api.EnumKey(key, index, name, &length);
+        const int32_t status = (api.*enumerate)(key, index, name, &length);
         if (status != RegStatus::Success) {
             EXPECT_EQ(status, RegStatus::NoMoreItems);
             return names;
@@ -83,18 +86,14 @@ std::vector<std::wstring> KeyNames(IRegistryApi& api, RegHandle key) {
     }
 }
 
+}  // namespace
+
+std::vector<std::wstring> KeyNames(IRegistryApi& api, RegHandle key) {
+    return Names(api, key, &IRegistryApi::EnumKey);
+}
+
 std::vector<std::wstring> ValueNames(IRegistryApi& api, RegHandle key) {
-    std::vector<std::wstring> names;
-    for (uint32_t index = 0;; ++index) {
-        wchar_t name[260];
-        uint32_t length = 260;
-        const int32_t status = api.EnumValue(key, index, name, &length);
-        if (status != RegStatus::Success) {
-            EXPECT_EQ(status, RegStatus::NoMoreItems);
-            return names;
-        }
-        names.emplace_back(name, length);
-    }
+    return Names(api, key, &IRegistryApi::EnumValue);
 }
 
 }  // namespace ZelCommon::Storage::Testing

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "common_src/ZelCommon/RegistryApiContract.h"
+#include "common_src/ZelCommon/RegistryContractSteps.h"
 #include "common_src/platform/TextCodec.h"
 #include "common_src/platform/WideFormat.h"
 
@@ -45,20 +46,7 @@ int32_t DeleteTree(IRegistryApi& api, RegHandle parent, const std::wstring& subK
         return status;
     }
     UniqueRegKey key(api, raw);
-    std::vector<std::wstring> children;
-    for (uint32_t index = 0;; ++index) {
-        wchar_t name[260];
-        uint32_t length = 260;
-        const int32_t status = api.EnumKey(key.Get(), index, name, &length);
-        if (status == RegStatus::NoMoreItems) {
-            break;
-        }
-        if (status != RegStatus::Success) {
-            return status;
-        }
-        children.emplace_back(name, length);
-    }
-    for (const std::wstring& child : children) {
+    for (const std::wstring& child : KeyNames(api, key.Get())) {
         if (int32_t status = DeleteTree(api, key.Get(), child); status != RegStatus::Success) {
             return status;
         }

@@ -141,6 +141,7 @@ TEST_F(RegistryStore, MissingValue_ThrowsFileNotFoundNamingKeyAndValueDespiteThe
 TEST_F(RegistryStore, Getters_ReadRawValuesOrRefuseThemAsInvalidData) {
     const std::vector<uint8_t> multi = Utf16Bytes(std::wstring(L"one\0two\0", 8));
     uint8_t buffer[4] = {};
+    const auto readText = [](Registry& r) { return r.GetString(L"v", L"x"); };
     const auto readBinary = [&buffer](Registry& r) {
         r.GetBinary(L"v", buffer, 4);
         return std::wstring();
@@ -154,28 +155,14 @@ TEST_F(RegistryStore, Getters_ReadRawValuesOrRefuseThemAsInvalidData) {
         std::wstring value;  // empty when the read throws
         uint32_t error;
     } cases[] = {
-        {"empty text", RegType::Sz, Utf16Bytes(L""), 2,
-         [](Registry& r) { return r.GetString(L"v", L"x"); }, L"", 0},
-        {"unterminated text", RegType::Sz, Utf16Bytes(L"abcd"), 6,
-         [](Registry& r) { return r.GetString(L"v", L""); }, L"abc", 0},
-        {"odd size",
-         RegType::ExpandSz,
-         {'a', 0, 'b', 'x', 'y', 'z'},
-         3,
-         [](Registry& r) { return r.GetString(L"v", L""); },
-         L"ab",
+        {"empty text", RegType::Sz, Utf16Bytes(L""), 2, readText, L"", 0},
+        {"unterminated text", RegType::Sz, Utf16Bytes(L"abcd"), 6, readText, L"abc", 0},
+        {"odd size", RegType::ExpandSz, {'a', 0, 'b', 'x', 'y', 'z'}, 3, readText, L"ab", 0},
+        {"expandable text", RegType::ExpandSz, Utf16Bytes(L"%TEMP%\\x"), 18, readText, L"%TEMP%\\x",
          0},
-        {"expandable text", RegType::ExpandSz, Utf16Bytes(L"%TEMP%\\x"), 18,
-         [](Registry& r) { return r.GetString(L"v", L""); }, L"%TEMP%\\x", 0},
-        {"multi-text", RegType::MultiSz, multi, static_cast<uint32_t>(multi.size()),
-         [](Registry& r) { return r.GetString(L"v", L""); }, L"one", 0},
-        {"dword as text",
-         RegType::Dword,
-         {5, 0, 0, 0},
-         4,
-         [](Registry& r) { return r.GetString(L"v", L""); },
-         L"",
-         13},
+        {"multi-text", RegType::MultiSz, multi, static_cast<uint32_t>(multi.size()), readText,
+         L"one", 0},
+        {"dword as text", RegType::Dword, {5, 0, 0, 0}, 4, readText, L"", 13},
         {"three bytes into four", RegType::Binary, {1, 2, 3}, 3, readBinary, L"", 13},
         {"five bytes into four", RegType::Binary, {1, 2, 3, 4, 5}, 5, readBinary, L"", 13},
         {"text as binary", RegType::Sz, Utf16Bytes(L"a"), 4, readBinary, L"", 13},

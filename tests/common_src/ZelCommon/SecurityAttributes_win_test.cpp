@@ -26,6 +26,7 @@ struct Entry {
     ACCESS_MASK mask;
     BYTE type;
     BYTE flags;
+    bool operator==(const Entry&) const = default;
 };
 
 struct KeySecurity {
@@ -80,16 +81,12 @@ std::vector<BYTE> Sid(const wchar_t* sddlName) {
 }
 
 void ExpectOurEntries(const KeySecurity& security) {
-    ASSERT_EQ(security.entries.size(), 3u);
-    const std::vector<BYTE> expectedSids[] = {Sid(L"SY"), Sid(L"BA"), Sid(L"IU")};
-    const ACCESS_MASK expectedMasks[] = {KEY_ALL_ACCESS, KEY_ALL_ACCESS, kUserRights};
-    for (std::size_t i = 0; i < 3; ++i) {
-        SCOPED_TRACE(i);
-        EXPECT_EQ(security.entries[i].type, ACCESS_ALLOWED_ACE_TYPE);
-        EXPECT_EQ(security.entries[i].sid, expectedSids[i]);
-        EXPECT_EQ(security.entries[i].mask, expectedMasks[i]);
-        EXPECT_EQ(security.entries[i].flags, CONTAINER_INHERIT_ACE);
-    }
+    const auto entry = [](const wchar_t* who, ACCESS_MASK mask) {
+        return Entry{Sid(who), mask, ACCESS_ALLOWED_ACE_TYPE, CONTAINER_INHERIT_ACE};
+    };
+    EXPECT_EQ(security.entries,
+              (std::vector<Entry>{entry(L"SY", KEY_ALL_ACCESS), entry(L"BA", KEY_ALL_ACCESS),
+                                  entry(L"IU", kUserRights)}));
 }
 
 TEST(SecurityAttributesWin32, Get_PointsAtProtectedDescriptorWithOurDacl) {

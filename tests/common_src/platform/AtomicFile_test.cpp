@@ -14,15 +14,6 @@ using Orva::Testing::ReadFileBytes;
 using Orva::Testing::TempFolder;
 using Orva::Testing::WriteFileBytes;
 
-TEST(AtomicFile, Replace_ExistingFileReplacedWholeWithNoTemporaryLeft) {
-    TempFolder folder;
-    const std::wstring path = folder.File(L"old.dat");
-    WriteFileBytes(path, std::string(1000, 'x'));
-    EXPECT_EQ(0u, ReplaceFileContents(path, "short"));
-    EXPECT_EQ("short", ReadFileBytes(path));
-    EXPECT_EQ(1u, folder.FileCount());
-}
-
 TEST(AtomicFile, Replace_MissingFileCreatedUnderANonAsciiName) {
     TempFolder folder;
     const std::wstring path = folder.File(L"J\u00fcrgen \u4e2d.dat");
@@ -38,12 +29,16 @@ TEST(AtomicFile, Replace_MissingFolderFailsAndCreatesNothing) {
     EXPECT_EQ(0u, folder.FileCount());
 }
 
-// The stamp the profile engine caches must be that of the version on disk.
-TEST(AtomicFile, Replace_StampIsTheWrittenVersions) {
+// A longer file is replaced whole, no temporary file is left, and the stamp the profile engine
+// caches is that of the version on disk.
+TEST(AtomicFile, Replace_ExistingFileReplacedWholeAndStampIsTheWrittenVersions) {
     TempFolder folder;
     const std::wstring path = folder.File(L"a.ini");
+    WriteFileBytes(path, std::string(1000, 'x'));
     FileStamp written;
     ASSERT_EQ(0u, ReplaceFileContents(path, "12345", &written));
+    EXPECT_EQ("12345", ReadFileBytes(path));
+    EXPECT_EQ(1u, folder.FileCount());
     FileStamp onDisk;
     ASSERT_EQ(0u, QueryFileStamp(path, onDisk));
     EXPECT_EQ(5u, written.size);
@@ -75,13 +70,7 @@ TEST(AtomicFile, WritesInPlaceAfter_RefusalsOnly) {
     }
 }
 
-TEST(AtomicFile, Read_MissingFileIsFileNotFound) {
-    TempFolder folder;
-    std::string bytes;
-    EXPECT_EQ(2u, ReadWholeFile(folder.File(L"none.dat"), bytes));
-}
-
-TEST(AtomicFile, Read_BinaryBytesUnchanged) {
+TEST(AtomicFile, Read_BinaryBytesUnchangedAndMissingFileNotFound) {
     TempFolder folder;
     const std::wstring path = folder.File(L"bin.dat");
     std::string written("a\r\nb\0c\x1a", 7);
@@ -90,6 +79,7 @@ TEST(AtomicFile, Read_BinaryBytesUnchanged) {
     std::string bytes;
     EXPECT_EQ(0u, ReadWholeFile(path, bytes));
     EXPECT_EQ(written, bytes);
+    EXPECT_EQ(2u, ReadWholeFile(folder.File(L"none.dat"), bytes));
 }
 
 }  // namespace

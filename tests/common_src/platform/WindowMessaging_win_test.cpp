@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 #include "common_src/platform/WindowMessaging.h"
 #include "support/TestWindow_win.h"
@@ -44,10 +45,8 @@ TEST(SystemWindowMessagingWin, PostQueuesAndSendAnswers_WithTheirParameters) {
     ASSERT_TRUE(SystemWindowMessaging().Post(window.handle(), WM_USER + 1033, 17, -5));
     MSG msg{};
     ASSERT_TRUE(::PeekMessageW(&msg, window.get(), WM_USER + 1033, WM_USER + 1033, PM_REMOVE));
-    EXPECT_EQ(msg.hwnd, window.get());
-    EXPECT_EQ(msg.message, static_cast<UINT>(WM_USER + 1033));
-    EXPECT_EQ(msg.wParam, 17u);
-    EXPECT_EQ(msg.lParam, -5);
+    EXPECT_EQ(std::tuple(msg.hwnd, msg.message, msg.wParam, msg.lParam),
+              std::tuple(window.get(), UINT{WM_USER + 1033}, WPARAM{17}, LPARAM{-5}));
     EXPECT_EQ(SystemWindowMessaging().Send(window.handle(), kAnswerMessage, 20, 3), 43);
 }
 

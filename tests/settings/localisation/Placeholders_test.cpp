@@ -25,21 +25,13 @@ TEST_F(PlaceholdersTest, InstallationBranding_WinsOverTheTable) {
     WriteTable(L"en-US", L"IDS_PRODUCT_NAME", L"Table Product");
     WriteTable(L"en-US", L"IDS_CORP_NAME", L"Table Corp");
     WriteTable(L"en-US", L"IDS_SPAM_NAME", L"Table Spam");
+    const std::wstring text = L"<$PRODUCT NAME> by <$CORP_NAME> stops <$SPAM_NAME>";
+    EXPECT_EQ(Expand(text), L"Table Product by Table Corp stops Table Spam");
+
     Brand(L"AboutProductName", L"Branded Product");
     Brand(L"CorpName", L"Branded Corp");
     Brand(L"Anti-Spam", L"Branded Spam");
-
-    EXPECT_EQ(Expand(L"<$PRODUCT NAME> by <$CORP_NAME> stops <$SPAM_NAME>"),
-              L"Branded Product by Branded Corp stops Branded Spam");
-}
-
-TEST_F(PlaceholdersTest, NoBranding_UsesTheLocalisedNames) {
-    WriteTable(L"en-US", L"IDS_PRODUCT_NAME", L"Table Product");
-    WriteTable(L"en-US", L"IDS_CORP_NAME", L"Table Corp");
-    WriteTable(L"en-US", L"IDS_SPAM_NAME", L"Table Spam");
-
-    EXPECT_EQ(Expand(L"<$PRODUCT NAME> by <$CORP_NAME> stops <$SPAM_NAME>"),
-              L"Table Product by Table Corp stops Table Spam");
+    EXPECT_EQ(Expand(text), L"Branded Product by Branded Corp stops Branded Spam");
 }
 
 TEST_F(PlaceholdersTest, NeitherBrandingNorTable_SpamNameIsAntiSpamAndNamesAreLeftOut) {

@@ -47,11 +47,7 @@ protected:
 
     // A relative path written with "/" in this build's separator.
     static std::wstring Native(std::wstring path) {
-        for (wchar_t& c : path) {
-            if (c == L'/') {
-                c = ZelCommon::Path::kSeparator;
-            }
-        }
+        std::replace(path.begin(), path.end(), L'/', ZelCommon::Path::kSeparator);
         return path;
     }
 

@@ -120,17 +120,19 @@ protected:
     OnlineHelpTest() {
         WriteTable(L"en-US", L"IDS_OK", L"OK");
         WriteTable(L"de-DE", L"IDS_OK", L"Gut");
-        WriteHelp(L"ProductRootRegKey", kRoot);
-        WriteHelp(L"URLKey", L"OnlineHelp\\URL");
-        WriteHelp(L"PIDKey", L"PID");
-        WriteHelp(L"FunID_LINK_FILTER", L"OnlineHelp\\Topics\\FunID_LINK_FILTER");
+        RegisterHelp(InstallFile());
         SetMachineValue(kRoot, L"PID", L"1700");
         SetMachineValue(std::wstring(kRoot) + L"\\OnlineHelp", L"URL", L"https://help.example/");
         SetMachineValue(std::wstring(kRoot) + L"\\OnlineHelp\\Topics", L"FunID_LINK_FILTER",
                         L"link-filter.htm");
     }
-    void WriteHelp(const std::wstring& key, const std::wstring& value) {
-        WriteEntry(InstallFile(), L"OnlinHelp", key, value);
+    void RegisterHelp(const std::wstring& file, const wchar_t* topic = L"FunID_LINK_FILTER") {
+        for (const auto& [key, value] : {std::pair{L"ProductRootRegKey", kRoot},
+                                         {L"URLKey", L"OnlineHelp\\URL"},
+                                         {L"PIDKey", L"PID"},
+                                         {topic, L"OnlineHelp\\Topics\\FunID_LINK_FILTER"}}) {
+            WriteEntry(file, L"OnlinHelp", key, value);
+        }
     }
     std::wstring Address() {
         ZelResourceStringLoader loader(Services());
@@ -152,10 +154,7 @@ protected:
 TEST_F(OnlineHelpTest, EveryPartRegistered_JoinsSiteLocaleProductAndPage) {
     EXPECT_EQ(Address(), L"https://help.example/en-US/1700/link-filter.htm");
     EXPECT_THAT(HelpLines(), testing::IsEmpty());
-}
-
-TEST_F(OnlineHelpTest, GermanSystem_PutsItsLocaleIntoTheAddress) {
-    locale.SetSystemDefaultLcid(0x0807);
+    locale.SetSystemDefaultLcid(0x0807);  // a German system puts its locale in
     EXPECT_EQ(Address(), L"https://help.example/de-DE/1700/link-filter.htm");
 }
 
@@ -174,13 +173,7 @@ TEST_F(OnlineHelpTest, LocaleWithoutTable_UsesEnglishWithTheShortMessages) {
 
 TEST_F(OnlineHelpTest, BaseFolder_NamesWhereTheSettingsFileIs) {
     const std::wstring elsewhere = temp.Folder(L"elsewhere");
-    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp",
-               L"ProductRootRegKey", kRoot);
-    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp", L"URLKey",
-               L"OnlineHelp\\URL");
-    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp", L"PIDKey", L"PID");
-    WriteEntry(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"OnlinHelp", L"FunID_X",
-               L"OnlineHelp\\Topics\\FunID_LINK_FILTER");
+    RegisterHelp(ZelCommon::Path::ChildFile(elsewhere, L"Help.ini"), L"FunID_X");
     ZelResourceStringLoader loader(Services());
 
     EXPECT_EQ(loader.GetORVA_OLH_URL(L"FunID_X", L"Help.ini", elsewhere),
@@ -207,11 +200,9 @@ TEST_F(OnlineHelpTest, MissingPart_LogsTheStepAndGivesNothing) {
          L"!!! Get FunID failed: from=[" + root + L"\\], result=[]"},
     };
     for (const auto& each : cases) {
-        WriteHelp(L"ProductRootRegKey", kRoot);
-        WriteHelp(L"URLKey", L"OnlineHelp\\URL");
-        WriteHelp(L"PIDKey", L"PID");
+        RegisterHelp(InstallFile());
         if (each.helpKey) {
-            WriteHelp(each.helpKey, each.pointTo);
+            WriteEntry(InstallFile(), L"OnlinHelp", each.helpKey, each.pointTo);
         }
         ZelResourceStringLoader loader(Services());
         TakeLines();
@@ -220,28 +211,22 @@ TEST_F(OnlineHelpTest, MissingPart_LogsTheStepAndGivesNothing) {
     }
 }
 
-struct JoinCase {
-    const wchar_t* site;
-    const wchar_t* page;
-    const wchar_t* expected;
-};
-
-class JoinHelpAddressTest : public testing::TestWithParam<JoinCase> {};
-
-TEST_P(JoinHelpAddressTest, SlashesAroundParts_GiveOneSlashBetweenThem) {
-    EXPECT_EQ(Settings::JoinHelpAddress(GetParam().site, L"en-US", L"1700", GetParam().page),
-              GetParam().expected);
+TEST(JoinHelpAddress, SlashesAroundParts_GiveOneSlashBetweenThem) {
+    const struct {
+        const wchar_t* site;
+        const wchar_t* page;
+        const wchar_t* expected;
+    } cases[] = {
+        {L"https://h.example", L"a.htm", L"https://h.example/en-US/1700/a.htm"},
+        {L"https://h.example/", L"a.htm", L"https://h.example/en-US/1700/a.htm"},
+        {L"https://h.example//", L"/a.htm", L"https://h.example/en-US/1700/a.htm"},
+        {L"https://h.example/help", L"x/a.htm", L"https://h.example/help/en-US/1700/x/a.htm"},
+    };
+    for (const auto& each : cases) {
+        EXPECT_EQ(Settings::JoinHelpAddress(each.site, L"en-US", L"1700", each.page),
+                  each.expected);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, JoinHelpAddressTest,
-                         testing::Values(JoinCase{L"https://h.example", L"a.htm",
-                                                  L"https://h.example/en-US/1700/a.htm"},
-                                         JoinCase{L"https://h.example/", L"a.htm",
-                                                  L"https://h.example/en-US/1700/a.htm"},
-                                         JoinCase{L"https://h.example//", L"/a.htm",
-                                                  L"https://h.example/en-US/1700/a.htm"},
-                                         JoinCase{L"https://h.example/help", L"x/a.htm",
-                                                  L"https://h.example/help/en-US/1700/x/a.htm"}));
 
 TEST(SplitRegistryLocation, LastBackslash_SeparatesKeyAndValue) {
     const Settings::RegistryLocation nested = Settings::SplitRegistryLocation(L"A\\B\\Value");

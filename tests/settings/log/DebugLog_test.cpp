@@ -7,6 +7,7 @@
 #include <atomic>
 #include <filesystem>
 #include <functional>
+#include <numeric>
 #include <regex>
 #include <string>
 #include <thread>
@@ -30,28 +31,30 @@ using ZelCommon::Library::FormatWhere;
 using ZelCommon::Library::ScopeTracer;
 
 // Text-mode files on Windows end their lines with CR LF.
-std::string OnDisk(std::string text) {
+std::string OnDisk(const std::string& text) {
 #ifdef _WIN32
-    std::string out;
-    for (const char c : text) {
-        if (c == '\n') {
-            out += '\r';
-        }
-        out += c;
-    }
-    return out;
+    return std::regex_replace(text, std::regex("\n"), "\r\n");
 #else
     return text;
 #endif
 }
 
-class DebugLogTest : public ::testing::Test {
-protected:
-    DebugLogTest() : m_clock(FakeClock::At(2024, 1, 31, 9, 5, 7, 42)) {
-        m_process.SetProcessId(0x51234);
-        m_process.SetThreadId(0xA000B);
+// A log of its own over a fixed clock and process, and a temporary folder for its files.
+struct LogRig {
+    LogRig() {
+        process.SetProcessId(0x51234);
+        process.SetThreadId(0xA000B);
     }
 
+    TempFolder temp;
+    FakeClock clock{FakeClock::At(2024, 1, 31, 9, 5, 7, 42)};
+    FakeProcessContext process;
+    FakeDebuggerOutput debugger;
+    DebugLog log{clock, process, debugger};
+};
+
+class DebugLogTest : public ::testing::Test, protected LogRig {
+protected:
     std::wstring Base(const wchar_t* name) const { return (m_folder / name).wstring(); }
     std::vector<fs::path> Files() const {
         std::vector<fs::path> files;
@@ -74,12 +77,7 @@ protected:
         return lines;
     }
 
-    TempFolder m_temp;
-    const fs::path m_folder = m_temp.Root();
-    FakeClock m_clock;
-    FakeProcessContext m_process;
-    FakeDebuggerOutput m_debugger;
-    DebugLog m_log{m_clock, m_process, m_debugger};
+    const fs::path m_folder = temp.Root();
 };
 
 const std::string kHead = "1234:000b 2024/01/31 09:05:07:042 ";
@@ -88,21 +86,21 @@ const std::string kHead = "1234:000b 2024/01/31 09:05:07:042 ";
 TEST_F(DebugLogTest, NotOpenOrOpenFailed_WritesNothingAnywhere) {
     for (const bool tryOpen : {false, true}) {
         if (tryOpen) {
-            m_log.OpenLog((m_folder / "missing" / "ORVAAgent.log").wstring());
+            log.OpenLog((m_folder / "missing" / "ORVAAgent.log").wstring());
         }
-        m_log.WriteLine(L"line\n");
-        m_log.LogMessage(0, "a.cpp", 1, L"message %d", 1);
-        m_log.LogText(L"@@@ %s  IN", L"Step");
-        { ScopeTracer tracer(L"CFoo::Bar", "Foo.cpp", 10, m_log); }
-        EXPECT_FALSE(m_log.IsLogOn());
+        log.WriteLine(L"line\n");
+        log.LogMessage(0, "a.cpp", 1, L"message %d", 1);
+        log.LogText(L"@@@ %s  IN", L"Step");
+        { ScopeTracer tracer(L"CFoo::Bar", "Foo.cpp", 10, log); }
+        EXPECT_FALSE(log.IsLogOn());
         EXPECT_TRUE(Files().empty());
-        EXPECT_TRUE(m_debugger.Texts().empty());
+        EXPECT_TRUE(debugger.Texts().empty());
     }
 }
 
 TEST_F(DebugLogTest, OpenLog_CreatesTodaysDatedFile) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    EXPECT_TRUE(m_log.IsLogOn());
+    log.OpenLog(Base(L"ORVAAgent.log"));
+    EXPECT_TRUE(log.IsLogOn());
     EXPECT_EQ(Files(), std::vector<fs::path>{"ORVAAgent.20240131.log"});
 }
 
@@ -170,20 +168,12 @@ TEST(DebugLog, Lines_AreHeadAndTextInTheFileAndForTheDebugger) {
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
-        TempFolder folder;
-        FakeClock clock(FakeClock::At(2024, 1, 31, 9, 5, 7, 42));
-        FakeProcessContext process;
-        process.SetProcessId(0x51234);
-        process.SetThreadId(0xA000B);
-        FakeDebuggerOutput debugger;
-        DebugLog log{clock, process, debugger};
-        log.OpenLog((folder.Root() / "ORVAAgent.log").wstring());
-        each.writes(log, clock, process);
-        EXPECT_EQ(ReadFileBytes(folder.Root() / "ORVAAgent.20240131.log"), OnDisk(each.written));
-        std::wstring shown;
-        for (const std::wstring& text : debugger.Texts()) {
-            shown += text;
-        }
+        LogRig rig;
+        rig.log.OpenLog((rig.temp.Root() / "ORVAAgent.log").wstring());
+        each.writes(rig.log, rig.clock, rig.process);
+        EXPECT_EQ(ReadFileBytes(rig.temp.Root() / "ORVAAgent.20240131.log"), OnDisk(each.written));
+        const std::vector<std::wstring> texts = rig.debugger.Texts();
+        const std::wstring shown = std::accumulate(texts.begin(), texts.end(), std::wstring());
         EXPECT_EQ(OnDisk(ZelCommon::Text::WideToAnsi(shown)), OnDisk(each.written));
     }
 }
@@ -214,12 +204,12 @@ bool IsHeldOpen(const fs::path& path) {
 }
 
 TEST_F(DebugLogTest, FirstLineAfterMidnight_GoesToNewDaysFileAndOldIsClosed) {
-    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
-    m_log.WriteLine(L"before\n");
+    clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 999));
+    log.OpenLog(Base(L"ORVAAgent.log"));
+    log.WriteLine(L"before\n");
     EXPECT_TRUE(IsHeldOpen(m_folder / "ORVAAgent.20240131.log"));
-    m_clock.Advance(1);
-    m_log.WriteLine(L"after\n");
+    clock.Advance(1);
+    log.WriteLine(L"after\n");
     EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"),
               OnDisk("1234:000b 2024/01/31 23:59:59:999 before\n"));
     EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240201.log"),
@@ -229,18 +219,18 @@ TEST_F(DebugLogTest, FirstLineAfterMidnight_GoesToNewDaysFileAndOldIsClosed) {
 }
 
 TEST_F(DebugLogTest, NewDaysFileCannotOpen_LogGoesOffWithoutWriting) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    log.OpenLog(Base(L"ORVAAgent.log"));
     fs::create_directory(m_folder / "ORVAAgent.20240201.log");
-    m_clock.Set(FakeClock::At(2024, 2, 1, 0, 0, 1, 0));
-    m_log.WriteLine(L"lost\n");
-    EXPECT_FALSE(m_log.IsLogOn());
-    m_log.WriteLine(L"also lost\n");
+    clock.Set(FakeClock::At(2024, 2, 1, 0, 0, 1, 0));
+    log.WriteLine(L"lost\n");
+    EXPECT_FALSE(log.IsLogOn());
+    log.WriteLine(L"also lost\n");
     EXPECT_EQ(ReadFileBytes(m_folder / "ORVAAgent.20240131.log"), "");
-    EXPECT_EQ(m_debugger.Texts().size(), 1u);
+    EXPECT_EQ(debugger.Texts().size(), 1u);
 }
 
 TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    log.OpenLog(Base(L"ORVAAgent.log"));
     constexpr int kThreads = 8;
     constexpr int kLines = 150;
     std::vector<std::thread> threads;
@@ -249,7 +239,7 @@ TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {
             const std::wstring filler(static_cast<size_t>(100 + t * 30),
                                       static_cast<wchar_t>(L'a' + t));
             for (int n = 0; n < kLines; ++n) {
-                m_log.LogMessage(2, "Worker.cpp", 5, L"T%d N%03d %s", t, n, filler);
+                log.LogMessage(2, "Worker.cpp", 5, L"T%d N%03d %s", t, n, filler);
             }
         });
     }
@@ -270,26 +260,26 @@ TEST_F(DebugLogTest, ManyThreads_LinesNeverInterleave) {
                   std::string(static_cast<size_t>(100 + t * 30), static_cast<char>('a' + t)));
     }
     EXPECT_EQ(lines.size(), static_cast<size_t>(kThreads * kLines));
-    EXPECT_EQ(m_debugger.Texts().size(), static_cast<size_t>(kThreads * kLines));
+    EXPECT_EQ(debugger.Texts().size(), static_cast<size_t>(kThreads * kLines));
 }
 
 TEST_F(DebugLogTest, WritersAcrossMidnight_EachLineLandsInTheFileOfItsOwnDate) {
-    m_clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 0));
-    m_log.OpenLog(Base(L"ORVAAgent.log"));
+    clock.Set(FakeClock::At(2024, 1, 31, 23, 59, 59, 0));
+    log.OpenLog(Base(L"ORVAAgent.log"));
     std::atomic<bool> stop{false};
     std::vector<std::thread> writers;
     for (int t = 0; t < 4; ++t) {
         writers.emplace_back([this, &stop, t] {
             int n = 0;
             while (!stop) {
-                m_log.LogText(L"writer %d line %d", t, n++);
+                log.LogText(L"writer %d line %d", t, n++);
             }
             // Past midnight by now: every writer also reaches the new day's file.
-            m_log.LogText(L"writer %d line %d", t, n);
+            log.LogText(L"writer %d line %d", t, n);
         });
     }
     for (int step = 0; step < 2000; ++step) {
-        m_clock.Advance(1);
+        clock.Advance(1);
         std::this_thread::yield();
     }
     stop = true;
@@ -307,7 +297,7 @@ TEST_F(DebugLogTest, WritersAcrossMidnight_EachLineLandsInTheFileOfItsOwnDate) {
             ++total;
         }
     }
-    EXPECT_EQ(total, m_debugger.Texts().size());
+    EXPECT_EQ(total, debugger.Texts().size());
     EXPECT_GE(total, 4u);
 }
 

@@ -17,19 +17,20 @@ using ZelCommon::Fakes::FakeWindowMessaging;
 
 // The registry, the agent's window and the log the check runs against.
 struct SuiteRig {
-    // Writes the suite's version value as REG_SZ; no text means the key exists without it.
-    void InstallSuite(std::optional<std::wstring> version) {
+    // Writes the suite's version value as REG_SZ, terminated unless `size` says otherwise; no
+    // text means the key exists without it.
+    void InstallSuite(std::optional<std::wstring> version, uint32_t size = 0) {
         RegHandle key = 0;
         ASSERT_EQ(
             registry.CreateKey(RootHandle(RegRoot::LocalMachine), L"SOFTWARE\\Halvion\\Vantor",
                                RegAccess::AllAccess, nullptr, &key),
             0);
         if (version) {
-            std::string bytes = ZelCommon::Text::WideToUtf16Le(*version);
-            bytes.append(2, '\0');
+            const std::string bytes =
+                ZelCommon::Text::WideToUtf16Le(*version) + std::string(2, '\0');
             ASSERT_EQ(registry.SetValue(key, L"version", RegType::Sz,
                                         reinterpret_cast<const uint8_t*>(bytes.data()),
-                                        static_cast<uint32_t>(bytes.size())),
+                                        size ? size : static_cast<uint32_t>(bytes.size())),
                       0);
         }
         registry.CloseKey(key);
@@ -98,17 +99,7 @@ TEST(SuiteVersionCheck, ValueFillingTheBufferWithoutTerminator_IsReadWithinIt) {
     SuiteRig rig;
     // 512 characters exactly fill the 1024-byte buffer, leaving no room for a terminator.
     const std::wstring version = L"17." + std::wstring(509, L'1');
-    std::string bytes = ZelCommon::Text::WideToUtf16Le(version);
-    bytes += "xx";  // not a zero, so the registry stores the value unterminated
-    RegHandle key = 0;
-    ASSERT_EQ(
-        rig.registry.CreateKey(RootHandle(RegRoot::LocalMachine), L"SOFTWARE\\Halvion\\Vantor",
-                               RegAccess::AllAccess, nullptr, &key),
-        0);
-    ASSERT_EQ(rig.registry.SetValue(key, L"version", RegType::Sz,
-                                    reinterpret_cast<const uint8_t*>(bytes.data()), 1024),
-              0);
-    rig.registry.CloseKey(key);
+    rig.InstallSuite(version + L"xx", 1024);  // no zero follows: stored unterminated
     rig.Run();
     EXPECT_TRUE(rig.windows.Messages().empty());
     // The log cuts long lines, so only the line's start is compared.
