@@ -72,18 +72,12 @@ struct ControllerRig {
         log.OpenLog(folder.File(L"plugin.log"));
         messaging.SetJournal(&journal);
         clock.SetJournal(&journal);
-        launcher.SetJournal(&journal);
-        shutdownDone.SetJournal(&journal);
-        hook.SetJournal(&journal);
-        shell.SetJournal(&journal);
-        window.SetJournal(&journal);
-        host.SetJournal(&journal);
-        ribbon.SetJournal(&journal);
-        classic.SetJournal(&journal);
-        spamFolder.SetJournal(&journal);
-        account.SetJournal(&journal);
-        dialogs.SetJournal(&journal);
-        strings.SetJournal(&journal);
+        for (ZelCommon::Fakes::JournalNotes* fake :
+             std::initializer_list<ZelCommon::Fakes::JournalNotes*>{
+                 &launcher, &shutdownDone, &hook, &shell, &window, &host, &ribbon, &classic,
+                 &spamFolder, &account, &dialogs, &strings}) {
+            fake->SetJournal(&journal);
+        }
         controllerWindow = messaging.AddWindow(std::wstring(Plugin::kControllerWindowTitle),
                                                std::wstring(Plugin::kControllerClassName));
     }

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "plugin/controller/ControllerRig.h"
-#include "plugin/controller/RibbonToolbar.h"
 
 namespace Orva::Testing {
 namespace {
@@ -89,33 +88,6 @@ TEST(ControllerSwitch, OnOff_SwitchesProtectionAndSavesTheFlag) {
              EXPECT_EQ(rig.ribbon.OnOffCaption(), L"IDS_ENABLE_CAPTION");
          }},
     });
-}
-
-// On the host's ribbon: a start with protection off offers "on" and greys the reporting
-// buttons; two presses of the switch come back to where they started.
-TEST(ControllerSwitch, OnTheRibbon_StartOffThenSwitchTwice) {
-    ControllerRig rig;
-    rig.strings.texts = {{L"IDS_ENABLE_CAPTION", L"On"}, {L"IDS_DISABLE_CAPTION", L"Off"}};
-    Orva::Plugin::CRibbonToolbar ribbon(rig.host.toolbar, rig.strings, rig.process, L"", rig.log);
-    rig.controller = rig.MakeController({.ribbon = &ribbon});
-    rig.controller->SetWindow(rig.controllerWindow);
-    rig.SetEnableTBar(L"0");
-    rig.AddAgent();
-    rig.Dispatch(4029);
-
-    const auto& toolbar = rig.host.toolbar;
-    const Orva::Plugin::RibbonIds ids = rig.Controller().Ribbon();
-    auto expect = [&](const wchar_t* caption, bool reporting) {
-        EXPECT_EQ(toolbar.Find(ids.onOff)->caption, caption);
-        EXPECT_EQ(toolbar.Find(ids.reportSpam)->enabled, reporting);
-        EXPECT_EQ(toolbar.Find(ids.notSpam)->enabled, reporting);
-        EXPECT_TRUE(toolbar.Find(ids.logo)->enabled);
-    };
-    expect(L"On", false);
-    rig.Dispatch(kOnOff.message, kOnOff.wParam, kOnOff.lParam);
-    expect(L"Off", true);
-    rig.Dispatch(kOnOff.message, kOnOff.wParam, kOnOff.lParam);
-    expect(L"On", false);
 }
 
 }  // namespace
