@@ -7,12 +7,10 @@
 
 #include "plugin/controller/ControllerRig.h"
 
+namespace Orva::Testing {
 namespace {
 
-using Orva::Plugin::CHostEventRelay;
-using Orva::Testing::AgentEntry;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::LogEntry;
+using Plugin::CHostEventRelay;
 
 const std::wstring kController = L"{113194CA-A0F5-4510-9814-D82C70CF9C6C}";
 const std::wstring kMinusOne = std::to_wstring(static_cast<uintptr_t>(intptr_t{-1}));
@@ -100,3 +98,4 @@ TEST(HostEventRelay, Events_BecomeControllerMessages) {
 }
 
 }  // namespace
+}  // namespace Orva::Testing

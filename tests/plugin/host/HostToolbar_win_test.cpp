@@ -81,7 +81,6 @@ TEST(HostToolbar, Failures_BecomeHostErrorsWithTheHostsWords) {
         EXPECT_THAT(error.what(), HasSubstr("The ribbon is locked"));
     }
 
-    FakeRibbonHost empty;
     Testing::HostEventRig events;
     CHostToolbar detached(events.relay, events.log);
     EXPECT_THROW(detached.CreateGroup(L"ORVA"), HostCallError);
