@@ -78,6 +78,9 @@ struct HostObjectsRig {
         });
     }
 
+    bool InitAdvised() { return host->CreateInitObject() && host->AdviseInitSink(); }
+    bool ApiAdvised() { return host->CreateApiObject() && host->AdviseApiSink(); }
+
     HostEventRig events;
     FakeHostObject object;
     bool available = true;
@@ -88,8 +91,7 @@ struct HostObjectsRig {
 // Unadvising lets go of the sink; the object itself stays until it is released.
 TEST(HostObjects, InitObject_IsCreatedByProgIdRelaysTheReadyEventAndIsReleasedLast) {
     HostObjectsRig rig;
-    ASSERT_TRUE(rig.host->CreateInitObject());
-    ASSERT_TRUE(rig.host->AdviseInitSink());
+    ASSERT_TRUE(rig.InitAdvised());
 
     EXPECT_EQ(rig.object.Fire(1, {}), S_OK);
     EXPECT_THAT(rig.progIds, ElementsAre(L"NktWLMailApiInit.WLMailApiInit"));
@@ -106,8 +108,7 @@ TEST(HostObjects, ApiObject_RelaysFolderSelectionAndIsReleasedWithItsSink) {
     HostObjectsRig rig;
     const long liveBefore = CDispatchSink::LiveSinks();
     ASSERT_FALSE(rig.host->HasApiObject());
-    ASSERT_TRUE(rig.host->CreateApiObject());
-    ASSERT_TRUE(rig.host->AdviseApiSink());
+    ASSERT_TRUE(rig.ApiAdvised());
     EXPECT_TRUE(rig.host->HasApiObject());
     EXPECT_EQ(rig.object.Fire(3, {Int64Arg(0x100000002LL)}), S_OK);
     EXPECT_THAT(rig.events.Messages(), ElementsAre(ControllerMessageRecord{1076, 1, 2}));
@@ -137,8 +138,7 @@ TEST(HostObjects, EventInterface_ComesFromClassInfoWhenPointsCannotBeListed) {
     HostObjectsRig rig;
     rig.object.enumerates = false;
     rig.object.providesClassInfo = true;
-    ASSERT_TRUE(rig.host->CreateApiObject());
-    ASSERT_TRUE(rig.host->AdviseApiSink());
+    ASSERT_TRUE(rig.ApiAdvised());
     EXPECT_EQ(rig.object.Fire(1, {Int32Arg(7), Int32Arg(8)}), S_OK);
     EXPECT_THAT(rig.events.Messages(), ElementsAre(ControllerMessageRecord{4031, 7, 8}));
 }
@@ -149,8 +149,7 @@ TEST(HostObjects, HostTypeLibrary_RenumbersTheEventsItNames) {
     rig.object.providesClassInfo = true;
     rig.object.classInfo = ClassWithRenumberedFolderEvent();
     ASSERT_NE(rig.object.classInfo, nullptr);
-    ASSERT_TRUE(rig.host->CreateApiObject());
-    ASSERT_TRUE(rig.host->AdviseApiSink());
+    ASSERT_TRUE(rig.ApiAdvised());
 
     EXPECT_EQ(rig.object.Fire(3, {Int64Arg(5)}), S_OK);
     EXPECT_EQ(rig.object.Fire(33, {Int64Arg(6)}), S_OK);
@@ -176,8 +175,7 @@ TEST(HostObjects, NoConnectionPoint_AdviseFailsAndKeepsNoSink) {
 
 TEST(HostObjects, RefusedUnadvise_ThrowsTheHostsReasonAndLetsGo) {
     HostObjectsRig rig;
-    ASSERT_TRUE(rig.host->CreateApiObject());
-    ASSERT_TRUE(rig.host->AdviseApiSink());
+    ASSERT_TRUE(rig.ApiAdvised());
     rig.object.unadviseResult = E_FAIL;
     try {
         rig.host->UnadviseApiSink();
@@ -193,8 +191,7 @@ TEST(HostObjects, RefusedUnadvise_ThrowsTheHostsReasonAndLetsGo) {
 
 TEST(HostObjects, DroppedWhileAdvised_UnadvisesQuietly) {
     HostObjectsRig rig;
-    ASSERT_TRUE(rig.host->CreateInitObject());
-    ASSERT_TRUE(rig.host->AdviseInitSink());
+    ASSERT_TRUE(rig.InitAdvised());
     rig.host.reset();
     EXPECT_THAT(rig.object.calls, ElementsAre(L"advise", L"unadvise 42"));
     EXPECT_EQ(rig.object.references, 0u);
