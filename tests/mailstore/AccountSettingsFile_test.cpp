@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "common_src/platform/TextCodec.h"
 #include "settings/probes/ProbeLog.h"
@@ -67,12 +68,15 @@ TEST(ReadAccountField, MissingFile_IsNotReadAndSaysSo) {
     Testing::TempFolder folder;
     Testing::ProbeLog log;
     std::wstring value;
-    EXPECT_EQ(GetDefWLMAccountIMAPMailUserName(folder.File(L"none"), value, log.Log()), 0);
-    const auto lines = log.Lines();
-    ASSERT_EQ(lines.size(), 5u);
-    EXPECT_EQ(lines[0], L"@@@ CToolBarWnd::GetDefWLMAccountIMAPMailUserName  IN\n");
-    EXPECT_EQ(lines[2], L"GetDefWLMAccountHTTPMailUserName(): Open setting file failed. error=2\n");
-    EXPECT_EQ(lines[4], L"@@@ CToolBarWnd::GetDefWLMAccountIMAPMailUserName  OUT\n");
+    const std::wstring none = folder.File(L"none");
+    EXPECT_EQ(GetDefWLMAccountIMAPMailUserName(none, value, log.Log()), 0);
+    EXPECT_EQ(log.Lines(),
+              (std::vector<std::wstring>{
+                  L"@@@ CToolBarWnd::GetDefWLMAccountIMAPMailUserName  IN\n",
+                  L"GetDefWLMAccountHTTPMailUserName(): pszWLMSettingFile=" + none + L"\n",
+                  L"GetDefWLMAccountHTTPMailUserName(): Open setting file failed. error=2\n",
+                  L"GetDefWLMAccountHTTPMailUserName(): bRet=[0], strAccName=[]\n",
+                  L"@@@ CToolBarWnd::GetDefWLMAccountIMAPMailUserName  OUT\n"}));
 }
 
 }  // namespace

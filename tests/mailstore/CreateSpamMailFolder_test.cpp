@@ -26,33 +26,14 @@ struct NameCase {
 };
 
 TEST(CreateSpamMailFolder, FolderName_FoundOnlyWhenExactlyEqual) {
+    const std::wstring kSpam = L"Spam Mail", kLocal = L"Indésirables";
     const NameCase cases[] = {
-        {"found",
-         {L"Inbox", L"Spam Mail"},
-         true,
-         L"Spam Mail",
-         {L"Inbox", L"Spam Mail"},
-         L"Spam Mail"},
-        {"other letter case",
-         {L"spam mail"},
-         true,
-         L"Spam Mail",
-         {L"spam mail", L"Spam Mail"},
-         L"Spam Mail"},
-        {"trailing blank",
-         {L"Spam Mail "},
-         true,
-         L"Spam Mail",
-         {L"Spam Mail ", L"Spam Mail"},
-         L"Spam Mail"},
-        {"localised",
-         {L"Spam Mail"},
-         true,
-         L"Indésirables",
-         {L"Spam Mail", L"Indésirables"},
-         L"Indésirables"},
-        {"no table", {}, false, L"Indésirables", {L"Spam Mail"}, L"Spam Mail"},
-        {"table without the name", {}, true, L"", {L"Spam Mail"}, L"Spam Mail"},
+        {"found", {L"Inbox", kSpam}, true, kSpam, {L"Inbox", kSpam}, kSpam},
+        {"other letter case", {L"spam mail"}, true, kSpam, {L"spam mail", kSpam}, kSpam},
+        {"trailing blank", {L"Spam Mail "}, true, kSpam, {L"Spam Mail ", kSpam}, kSpam},
+        {"localised", {kSpam}, true, kLocal, {kSpam, kLocal}, kLocal},
+        {"no table", {}, false, kLocal, {kSpam}, kSpam},
+        {"table without the name", {}, true, L"", {kSpam}, kSpam},
     };
     for (const NameCase& c : cases) {
         SCOPED_TRACE(c.name);
@@ -81,15 +62,16 @@ TEST(CreateSpamMailFolder, Creation_LogsEachFolderSeenAndTheNewId) {
 
     ASSERT_NE(rig.folder.CreateSpamMailFolder(false), 0);
 
-    const Lines lines = rig.Lines();
-    ASSERT_EQ(lines.size(), 10u);
-    EXPECT_EQ(lines[1], L"XXX Error: MUI string loader initialize failed! ");
-    EXPECT_EQ(lines[2].rfind(L"!!! Error: MUI string loader initialize failed!, at: ToolBarWnd "
-                             L"line: ",
-                             0),
-              0u);
-    EXPECT_EQ(Lines(lines.begin() + 3, lines.end()),
-              (Lines{L"@@@ CToolBarWnd::CreateSpamMailFolder(), Success get the default account "
+    // The loader's failure names the source line it was raised at; the rest is compared whole.
+    const std::wstring kAt =
+        L"!!! Error: MUI string loader initialize failed!, at: ToolBarWnd line: ";
+    Lines lines = rig.Lines();
+    for (std::wstring& line : lines) {
+        line = line.starts_with(kAt) ? kAt : line;
+    }
+    EXPECT_EQ(lines,
+              (Lines{kIn, L"XXX Error: MUI string loader initialize failed! ", kAt,
+                     L"@@@ CToolBarWnd::CreateSpamMailFolder(), Success get the default account "
                      L"id=[0x1F00000002]",
                      L"get the folder name in create spam folder = Deleted Items  ID = "
                      L"0xA00000001000",

@@ -8,20 +8,13 @@
 
 #include "plugin/controller/ControllerRig.h"
 
+namespace Orva::Testing {
 namespace {
 
-using Orva::Plugin::AgentDelivery;
-using Orva::Plugin::DeliveryOf;
-using Orva::Plugin::IsButtonCommand;
-using Orva::Testing::AgentEntry;
-using Orva::Testing::ControllerRig;
-using Orva::Testing::Journal;
-using Orva::Testing::LogEntry;
-using Orva::Testing::Times;
+using Plugin::AgentDelivery;
+using Plugin::IsButtonCommand;
 
 const std::wstring kTitle = L"{56639265-C81B-440d-B5CD-3A7ED4F42777}";
-const std::wstring kRetry =
-    LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
 const std::wstring kSuccess =
     LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle success");
 const std::wstring kLaunchIn = LogEntry(L"@@@ CToolBarWnd::LaunchShadow  IN");
@@ -29,8 +22,8 @@ const std::wstring kLaunchOut = LogEntry(L"@@@ CToolBarWnd::LaunchShadow  OUT");
 
 TEST(AgentLink, LaunchShadow_StartsTheQuotedProgramWithTheTitleAndLogsAFailure) {
     ControllerRig rig;
-    Orva::Plugin::CAgentLink link(rig.messaging, rig.clock, rig.launcher, rig.log,
-                                  L"C:\\Program Files\\Halvion\\WLM\\");
+    Plugin::CAgentLink link(rig.messaging, rig.clock, rig.launcher, rig.log,
+                            L"C:\\Program Files\\Halvion\\WLM\\");
     EXPECT_EQ(link.CommandLine(), L"\"C:\\Program Files\\Halvion\\WLM\\ORVA_WLM.exe\" " + kTitle);
 
     for (const bool launches : {true, false}) {
@@ -59,9 +52,9 @@ TEST(AgentLink, ShutdownShadowEX_LooksForTheAgentOnceAndOncePerRetry) {
         {"agent on the third look",
          2,
          20,
-         {L"sleep 500", kRetry, L"sleep 500", kSuccess, AgentEntry(L"post", 1069)},
+         {L"sleep 500", kShadowRetry, L"sleep 500", kSuccess, AgentEntry(L"post", 1069)},
          3},
-        {"agent never there", std::nullopt, 10, Times(10, {L"sleep 500", kRetry}), 11},
+        {"agent never there", std::nullopt, 10, Times(10, {L"sleep 500", kShadowRetry}), 11},
         {"no retries, agent late", 1, 0, {}, 1},
         {"no retries, agent there", 0, 0, {AgentEntry(L"post", 1069)}, 1},
     };
@@ -123,3 +116,4 @@ TEST(AgentLink, Messages_ReachTheAgentAsPostsOrSends) {
 }
 
 }  // namespace
+}  // namespace Orva::Testing

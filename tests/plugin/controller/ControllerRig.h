@@ -56,6 +56,19 @@ inline std::wstring AgentEntry(const wchar_t* delivery, uint32_t message, uintpt
            std::to_wstring(lParam);
 }
 
+// Log lines that scenarios of several of the controller's messages share.
+inline const std::wstring kShadowRetry =
+    LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
+inline const std::wstring kClickIn = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  IN");
+inline const std::wstring kClickOut = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  OUT");
+inline const std::wstring kSwitchIn = LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  IN");
+inline const std::wstring kSwitchOut = LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  OUT");
+inline const std::wstring kReQueryIn = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  IN");
+inline const std::wstring kReQueryOut = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  OUT");
+inline const std::wstring kNoticeSent = LogEntry(
+    L"@@@ CToolBarWnd::OnReQueryDefaultAccount(), Sucess to post message to ORVA_WLM "
+    L"about default account info.");
+
 // What a test puts in place of the rig's own fakes (the real messaging or
 // hook under Wine, a part that fails).
 struct ControllerReplacements {
@@ -66,51 +79,42 @@ struct ControllerReplacements {
     Plugin::CAgentLink* agent = nullptr;
 };
 
+// A spam folder whose every operation but the delete-all does nothing.
+class QuietSpamFolder : public Plugin::ISpamFolder {
+public:
+    int CreateSpamMailFolder(bool) override { return 1; }
+    void PostCleanDeletedFolder() override {}
+    void ReleaseStore() override {}
+    void OnFolderSelectionChanged(uint64_t) override {}
+};
+
 // Every port and part of the controller as a recording fake, all writing into one journal.
 struct ControllerRig {
     ControllerRig() {
         log.OpenLog(folder.File(L"plugin.log"));
         messaging.SetJournal(&journal);
         clock.SetJournal(&journal);
-        launcher.SetJournal(&journal);
-        shutdownDone.SetJournal(&journal);
-        hook.SetJournal(&journal);
-        shell.SetJournal(&journal);
-        window.SetJournal(&journal);
-        host.SetJournal(&journal);
-        ribbon.SetJournal(&journal);
-        classic.SetJournal(&journal);
-        spamFolder.SetJournal(&journal);
-        account.SetJournal(&journal);
-        dialogs.SetJournal(&journal);
-        strings.SetJournal(&journal);
+        for (ZelCommon::Fakes::JournalNotes* fake :
+             std::initializer_list<ZelCommon::Fakes::JournalNotes*>{
+                 &launcher, &shutdownDone, &hook, &shell, &window, &host, &ribbon, &classic,
+                 &spamFolder, &account, &dialogs, &strings}) {
+            fake->SetJournal(&journal);
+        }
         controllerWindow = messaging.AddWindow(std::wstring(Plugin::kControllerWindowTitle),
                                                std::wstring(Plugin::kControllerClassName));
     }
 
     Plugin::ControllerPorts Ports(const ControllerReplacements& with = {}) {
-        return Plugin::ControllerPorts{with.messaging ? *with.messaging : messaging,
-                                       clock,
-                                       shutdownDone,
-                                       with.hook ? *with.hook : hook,
-                                       shell,
-                                       keyboard,
-                                       process,
-                                       plainDebugger,
-                                       os,
-                                       host,
-                                       version,
-                                       log};
+        auto& messagingPort = with.messaging ? *with.messaging : messaging;
+        auto& hookPort = with.hook ? *with.hook : hook;
+        return {messagingPort, clock,         shutdownDone, hookPort, shell,   keyboard,
+                process,       plainDebugger, os,           host,     version, log};
     }
     Plugin::ControllerParts Parts(const ControllerReplacements& with = {}) {
-        return Plugin::ControllerParts{with.ribbon ? *with.ribbon : ribbon,
-                                       classic,
-                                       with.spamFolder ? *with.spamFolder : spamFolder,
-                                       account,
-                                       dialogs,
-                                       strings,
-                                       settings,
-                                       with.agent ? *with.agent : agent};
+        auto& ribbonPart = with.ribbon ? *with.ribbon : ribbon;
+        auto& spamFolderPart = with.spamFolder ? *with.spamFolder : spamFolder;
+        return {ribbonPart, classic, spamFolderPart, account,
+                dialogs,    strings, settings,       with.agent ? *with.agent : agent};
     }
 
     std::unique_ptr<Plugin::CToolBarController> MakeController(

@@ -3,23 +3,11 @@
 #include <string>
 
 #include "plugin/controller/ControllerRig.h"
-#include "plugin/controller/RibbonToolbar.h"
 
 namespace Orva::Testing {
 namespace {
 
 const Sent kOnOff{4031, static_cast<uintptr_t>(intptr_t{-1}), 2};
-const std::wstring kClickIn = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  IN");
-const std::wstring kClickOut = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  OUT");
-const std::wstring kIn = LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  IN");
-const std::wstring kOut = LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  OUT");
-const std::wstring kReQueryIn = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  IN");
-const std::wstring kReQueryOut = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  OUT");
-const std::wstring kNoticeSent = LogEntry(
-    L"@@@ CToolBarWnd::OnReQueryDefaultAccount(), Sucess to post message to ORVA_WLM "
-    L"about default account info.");
-const std::wstring kRetry =
-    LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
 
 void SwitchedOff(ControllerRig& rig) {
     BuiltWithAgent(rig);
@@ -39,22 +27,23 @@ TEST(ControllerSwitch, OnOff_SwitchesProtectionAndSavesTheFlag) {
         {"off",
          BuiltWithAgent,
          {kOnOff},
-         {kClickIn, kIn, AgentEntry(L"post", 1069), L"ribbon caption IDS_ENABLE_CAPTION",
-          L"ribbon buttons 0", kOut, kClickOut, Answer(0)},
+         {kClickIn, kSwitchIn, AgentEntry(L"post", 1069), L"ribbon caption IDS_ENABLE_CAPTION",
+          L"ribbon buttons 0", kSwitchOut, kClickOut, Answer(0)},
          [](ControllerRig& rig) { ExpectFlag(rig, false, L"0"); }},
         {"off without the agent: ten tries a second apart",
          Built,
          {kOnOff},
-         Journal({{kClickIn, kIn},
-                  Times(10, {L"sleep 1000", kRetry}),
-                  {L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0", kOut, kClickOut,
+         Journal({{kClickIn, kSwitchIn},
+                  Times(10, {L"sleep 1000", kShadowRetry}),
+                  {L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0", kSwitchOut, kClickOut,
                    Answer(0)}})},
         {"on with the agent running",
          SwitchedOff,
          {kOnOff},
-         {kClickIn, kIn, L"account check", kReQueryIn, L"store create-folder 1",
+         {kClickIn, kSwitchIn, L"account check", kReQueryIn, L"store create-folder 1",
           AgentEntry(L"post", 4027), kNoticeSent, kReQueryOut,
-          L"ribbon caption IDS_DISABLE_CAPTION", L"ribbon buttons 1", kOut, kClickOut, Answer(0)},
+          L"ribbon caption IDS_DISABLE_CAPTION", L"ribbon buttons 1", kSwitchOut, kClickOut,
+          Answer(0)},
          [](ControllerRig& rig) { ExpectFlag(rig, true, L"1"); }},
         {"on after the agent stopped",
          [](ControllerRig& rig) {
@@ -64,18 +53,19 @@ TEST(ControllerSwitch, OnOff_SwitchesProtectionAndSavesTheFlag) {
              rig.launcher.onLaunch = [&rig] { rig.AddAgent(); };
          },
          {kOnOff},
-         {kClickIn, kIn, L"account check", LogEntry(L"@@@ CToolBarWnd::LaunchShadow  IN"),
+         {kClickIn, kSwitchIn, L"account check", LogEntry(L"@@@ CToolBarWnd::LaunchShadow  IN"),
           L"launch \"C:\\Addin\\ORVA_WLM.exe\" {56639265-C81B-440d-B5CD-3A7ED4F42777}|",
           LogEntry(L"@@@ CToolBarWnd::LaunchShadow  OUT"), kReQueryIn, L"store create-folder 1",
           AgentEntry(L"post", 4027), kNoticeSent, kReQueryOut,
-          L"ribbon caption IDS_DISABLE_CAPTION", L"ribbon buttons 1", kOut, kClickOut, Answer(0)}},
+          L"ribbon caption IDS_DISABLE_CAPTION", L"ribbon buttons 1", kSwitchOut, kClickOut,
+          Answer(0)}},
         {"while the suite is busy",
          [](ControllerRig& rig) {
              BuiltWithAgent(rig);
              rig.AddSuite();
          },
          {kOnOff},
-         {kClickIn, kIn, kClickOut, Answer(0)},
+         {kClickIn, kSwitchIn, kClickOut, Answer(0)},
          [](ControllerRig& rig) { ExpectFlag(rig, false, std::nullopt); }},
         {"on with an unsupported account: the notice only",
          [](ControllerRig& rig) {
@@ -83,39 +73,12 @@ TEST(ControllerSwitch, OnOff_SwitchesProtectionAndSavesTheFlag) {
              rig.account.SetUnsupported(true);
          },
          {kOnOff},
-         {kClickIn, kIn, L"account check", L"dialog unsupported", kClickOut, Answer(0)},
+         {kClickIn, kSwitchIn, L"account check", L"dialog unsupported", kClickOut, Answer(0)},
          [](ControllerRig& rig) {
              EXPECT_EQ(rig.profile.Value(L"Antispam", L"EnableTBar"), L"0");
              EXPECT_EQ(rig.ribbon.OnOffCaption(), L"IDS_ENABLE_CAPTION");
          }},
     });
-}
-
-// On the host's ribbon: a start with protection off offers "on" and greys the reporting
-// buttons; two presses of the switch come back to where they started.
-TEST(ControllerSwitch, OnTheRibbon_StartOffThenSwitchTwice) {
-    ControllerRig rig;
-    rig.strings.texts = {{L"IDS_ENABLE_CAPTION", L"On"}, {L"IDS_DISABLE_CAPTION", L"Off"}};
-    Orva::Plugin::CRibbonToolbar ribbon(rig.host.toolbar, rig.strings, rig.process, L"", rig.log);
-    rig.controller = rig.MakeController({.ribbon = &ribbon});
-    rig.controller->SetWindow(rig.controllerWindow);
-    rig.SetEnableTBar(L"0");
-    rig.AddAgent();
-    rig.Dispatch(4029);
-
-    const auto& toolbar = rig.host.toolbar;
-    const Orva::Plugin::RibbonIds ids = rig.Controller().Ribbon();
-    auto expect = [&](const wchar_t* caption, bool reporting) {
-        EXPECT_EQ(toolbar.Find(ids.onOff)->caption, caption);
-        EXPECT_EQ(toolbar.Find(ids.reportSpam)->enabled, reporting);
-        EXPECT_EQ(toolbar.Find(ids.notSpam)->enabled, reporting);
-        EXPECT_TRUE(toolbar.Find(ids.logo)->enabled);
-    };
-    expect(L"On", false);
-    rig.Dispatch(kOnOff.message, kOnOff.wParam, kOnOff.lParam);
-    expect(L"Off", true);
-    rig.Dispatch(kOnOff.message, kOnOff.wParam, kOnOff.lParam);
-    expect(L"On", false);
 }
 
 }  // namespace

@@ -31,12 +31,10 @@ const std::vector<std::wstring> kRibbonBuilt =
 // Switched off before the start: the ribbon shows "enable" and greys its buttons.
 const std::vector<std::wstring> kRibbonBuiltOff =
     Journal({kApiObjectMade,
-             {LogEntry(L"@@@ CToolBarWnd::OnBuildRibbonToolbar  IN"), L"ribbon build 0",
-              LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  IN"), AgentEntry(L"post", 1069),
-              L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0",
-              LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  OUT"),
-              LogEntry(L"@@@ CToolBarWnd::OnBuildRibbonToolbar  OUT"), L"debugger tesr2",
-              L"timer set 1 1000", kPostReQuery, kOut, Answer(0)}});
+             {LogEntry(L"@@@ CToolBarWnd::OnBuildRibbonToolbar  IN"), L"ribbon build 0", kSwitchIn,
+              AgentEntry(L"post", 1069), L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0",
+              kSwitchOut, LogEntry(L"@@@ CToolBarWnd::OnBuildRibbonToolbar  OUT"),
+              L"debugger tesr2", L"timer set 1 1000", kPostReQuery, kOut, Answer(0)}});
 const std::vector<std::wstring> kUnsupported =
     Journal({kApiObjectMade,
              {LogEntry(L"!!! Not support WLM version"), L"sleep 500",

@@ -9,8 +9,8 @@ namespace {
 
 constexpr uint32_t kClick = 4031;
 constexpr uintptr_t kEntries = static_cast<uintptr_t>(intptr_t{-1});
-const std::wstring kIn = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  IN");
-const std::wstring kOut = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton  OUT");
+const std::wstring& kIn = kClickIn;
+const std::wstring& kOut = kClickOut;
 const std::wstring kUnknown = LogEntry(L"@@@ CToolBarWnd::OnClickRibbonButton, Unknow parameter");
 
 // The ribbon is built: group 101, logo 102, report spam 108, not spam 109.

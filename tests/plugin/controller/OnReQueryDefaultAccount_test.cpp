@@ -8,27 +8,21 @@ namespace Orva::Testing {
 namespace {
 
 constexpr uint32_t kReQuery = 4028;
-const std::wstring kIn = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  IN");
-const std::wstring kOut = LogEntry(L"@@@ CToolBarWnd::OnReQueryDefaultAccount  OUT");
-const std::wstring kSuccess = LogEntry(
-    L"@@@ CToolBarWnd::OnReQueryDefaultAccount(), Sucess to post message to ORVA_WLM "
-    L"about default account info.");
+const std::wstring& kIn = kReQueryIn;
+const std::wstring& kOut = kReQueryOut;
+const std::wstring& kSuccess = kNoticeSent;
 const std::wstring kPostFailed = LogEntry(
     L"XXX CToolBarWnd::OnReQueryDefaultAccount(), Fail to post message to ORVA_WLM "
     L"about default account info.");
-const std::wstring kSwitchIn = LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  IN");
-const std::wstring kSwitchOut = LogEntry(L"@@@ CToolBarWnd::EnableRibbonToolbar  OUT");
 const std::wstring kDisabling = LogEntry(
     L"@@@ CToolBarWnd::OnReQueryDefaultAccount(), The default account is a HTTP "
     L"account, so disable the toolbar.");
-const std::wstring kRetry =
-    LogEntry(L"CToolBarWnd::ShutdownShadowEX() Get Shadow handle failed, retry");
 
 // Without an agent, switching off tries ten times to stop it and the notice ten times to reach it.
 std::vector<std::wstring> SwitchedOffWithoutAgent(const std::vector<std::wstring>& first) {
     return Journal({first,
                     {kSwitchIn},
-                    Times(10, {L"sleep 1000", kRetry}),
+                    Times(10, {L"sleep 1000", kShadowRetry}),
                     {L"ribbon caption IDS_ENABLE_CAPTION", L"ribbon buttons 0", kSwitchOut,
                      L"store create-folder 1"},
                     Times(10, {L"sleep 1000"}),

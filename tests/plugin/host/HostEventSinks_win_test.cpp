@@ -24,54 +24,75 @@ using Testing::Signed;
 constexpr DISPID kToolbarClicked = 1;
 constexpr DISPID kFolderChanged = 3;
 
-struct FolderCase {
-    const char* name;
-    VARIANT argument;
-    WPARAM high;
-    LPARAM low;
+template <class Sink>
+ComPtr<CDispatchSink> Make(HostEventRig& rig) {
+    return MakeSink<Sink>(rig.relay, rig.log);
+}
+const auto kApi = Make<CWLMAApiEventSink>;
+
+struct Fired {
+    DISPID id;
+    std::vector<VARIANT> args;
 };
 
-TEST(HostEventSinks, FolderSelection_PostsTheIdsHalvesWhateverIntegerCarriesIt) {
+// An entry of the drop-down, clicked through either of its click events.
+std::vector<Fired> BothClicks() {
+    return {{1, {}}, {2, {Int32Arg(5)}}};
+}
+std::vector<ControllerMessageRecord> EntryMessages(LPARAM index) {
+    return {{4031, Signed(-1), index}, {4031, Signed(-1), index}};
+}
+
+struct EventCase {
+    const char* name;
+    std::function<ComPtr<CDispatchSink>(HostEventRig&)> make;
+    std::vector<Fired> fired;
+    std::vector<ControllerMessageRecord> messages;
+};
+
+// The folder id's halves are posted whatever integer carries it, the toolbar's button id sign
+// extended; the API's other events post nothing.
+TEST(HostEventSinks, Events_ReachTheControllerAsItsMessages) {
     VARIANT byRefTarget = Int64Arg(0x100000002LL);
     VARIANT unsignedId{};
     V_VT(&unsignedId) = VT_UI8;
     V_UI8(&unsignedId) = 0xFFFFFFFFFFFFFFFFull;
-    const FolderCase cases[] = {
-        {"I8", Int64Arg(0x100000002LL), 1, 2},
-        {"I8 by reference", ByRef(byRefTarget), 1, 2},
-        {"I8 no folder", Int64Arg(-1), 0xFFFFFFFFu, static_cast<LPARAM>(0xFFFFFFFFu)},
-        {"UI8", unsignedId, 0xFFFFFFFFu, static_cast<LPARAM>(0xFFFFFFFFu)},
-        {"I4", Int32Arg(7), 0, 7},
+    VARIANT button = Int32Arg(-3);
+    std::vector<Fired> others = {{2, {}}, {999, {Int32Arg(1), Int32Arg(2)}}};
+    for (DISPID id = 4; id <= 10; ++id) {
+        others.push_back({id, {Int32Arg(1)}});
+    }
+    const LPARAM kNone = static_cast<LPARAM>(0xFFFFFFFFu);
+    const EventCase cases[] = {
+        {"folder I8", kApi, {{kFolderChanged, {Int64Arg(0x100000002LL)}}}, {{1076, 1, 2}}},
+        {"folder I8 by reference", kApi, {{kFolderChanged, {ByRef(byRefTarget)}}}, {{1076, 1, 2}}},
+        {"folder I8 none", kApi, {{kFolderChanged, {Int64Arg(-1)}}}, {{1076, 0xFFFFFFFFu, kNone}}},
+        {"folder UI8", kApi, {{kFolderChanged, {unsignedId}}}, {{1076, 0xFFFFFFFFu, kNone}}},
+        {"folder I4", kApi, {{kFolderChanged, {Int32Arg(7)}}}, {{1076, 0, 7}}},
+        {"toolbar clicks",
+         kApi,
+         {{kToolbarClicked, {Int32Arg(7), ByRef(button)}},
+          {kToolbarClicked, {Int32Arg(-2), Int32Arg(9)}}},
+         {{4031, 7, -3}, {4031, Signed(-2), 9}}},
+        {"other API events", kApi, others, {}},
+        {"ready", Make<CWLMApiInitEventSink>, {{1, {}}}, {{4029, 0, 0}}},
+        {"shutdown", Make<CWLMApiInitEventSink>, {{2, {}}}, {{4030, 0, 0}, {WM_CLOSE, 0, 0}}},
+        {"default account", Make<CWLMAMailAccountManagerEventSink>, {{1, {}}}, {{4028, 1, 1}}},
+        {"settings", Make<CSettingBtnEventSink>, BothClicks(), EntryMessages(0)},
+        {"statistics", Make<CStatisticBtnEventSink>, BothClicks(), EntryMessages(1)},
+        {"on/off", Make<COnOffBtnEventSink>, BothClicks(), EntryMessages(2)},
+        {"help", Make<CHelpBtnEventSink>, BothClicks(), EntryMessages(3)},
+        {"about", Make<CAboutBtnEventSink>, BothClicks(), EntryMessages(4)},
     };
-    for (const FolderCase& each : cases) {
+    for (const EventCase& each : cases) {
         SCOPED_TRACE(each.name);
         HostEventRig rig;
-        const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
-        EXPECT_EQ(FireEvent(*sink.Get(), kFolderChanged, {each.argument}), S_OK);
-        EXPECT_THAT(rig.Messages(),
-                    ElementsAre(ControllerMessageRecord{1076, each.high, each.low}));
+        const auto sink = each.make(rig);
+        for (const Fired& fired : each.fired) {
+            EXPECT_EQ(FireEvent(*sink.Get(), fired.id, fired.args), S_OK) << fired.id;
+        }
+        EXPECT_EQ(rig.Messages(), each.messages);
     }
-}
-
-TEST(HostEventSinks, ToolbarClick_PostsToolbarThenButtonSignExtended) {
-    HostEventRig rig;
-    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
-    VARIANT button = Int32Arg(-3);
-    EXPECT_EQ(FireEvent(*sink.Get(), kToolbarClicked, {Int32Arg(7), ByRef(button)}), S_OK);
-    EXPECT_EQ(FireEvent(*sink.Get(), kToolbarClicked, {Int32Arg(-2), Int32Arg(9)}), S_OK);
-    EXPECT_THAT(rig.Messages(), ElementsAre(ControllerMessageRecord{4031, 7, -3},
-                                            ControllerMessageRecord{4031, Signed(-2), 9}));
-}
-
-TEST(HostEventSinks, OtherApiEvents_PostNothing) {
-    HostEventRig rig;
-    const auto sink = MakeSink<CWLMAApiEventSink>(rig.relay, rig.log);
-    for (DISPID id = 4; id <= 10; ++id) {
-        EXPECT_EQ(FireEvent(*sink.Get(), id, {Int32Arg(1)}), S_OK);
-    }
-    EXPECT_EQ(FireEvent(*sink.Get(), 2, {}), S_OK);
-    EXPECT_EQ(FireEvent(*sink.Get(), 999, {Int32Arg(1), Int32Arg(2)}), S_OK);
-    EXPECT_THAT(rig.Messages(), IsEmpty());
 }
 
 struct BadCallCase {
@@ -85,10 +106,15 @@ struct BadCallCase {
 };
 
 TEST(HostEventSinks, WrongArguments_AreRefusedWithOneLineAndNoMessage) {
-    constexpr wchar_t kToolbarMismatch[] =
+    constexpr HRESULT kType = DISP_E_TYPEMISMATCH, kCount = DISP_E_BADPARAMCOUNT;
+    constexpr wchar_t kClickType[] =
         L"XXX CWLMAApiEventSink::OnToolbarButtonClicked wrong arguments, hr(0x80020005)";
-    constexpr wchar_t kFolderMismatch[] =
+    constexpr wchar_t kFolderType[] =
         L"XXX CWLMAApiEventSink::OnFolderSelectionChanged wrong arguments, hr(0x80020005)";
+    constexpr wchar_t kClickCount[] =
+        L"XXX CWLMAApiEventSink::OnToolbarButtonClicked wrong arguments, hr(0x8002000E)";
+    constexpr wchar_t kFolderCount[] =
+        L"XXX CWLMAApiEventSink::OnFolderSelectionChanged wrong arguments, hr(0x8002000E)";
     VARIANT text{};
     V_VT(&text) = VT_BSTR;
     V_BSTR(&text) = ::SysAllocString(L"not a number");
@@ -97,37 +123,12 @@ TEST(HostEventSinks, WrongArguments_AreRefusedWithOneLineAndNoMessage) {
     V_VT(&object) = VT_UNKNOWN;
     V_UNKNOWN(&object) = nullptr;
     const BadCallCase cases[] = {
-        {"text button id",
-         kToolbarClicked,
-         {Int32Arg(1), text},
-         DISP_E_TYPEMISMATCH,
-         0,
-         kToolbarMismatch},
-        {"object toolbar id",
-         kToolbarClicked,
-         {object, Int32Arg(1)},
-         DISP_E_TYPEMISMATCH,
-         1,
-         kToolbarMismatch},
-        {"too big for 32 bits",
-         kToolbarClicked,
-         {Int64Arg(1LL << 40), Int32Arg(1)},
-         DISP_E_TYPEMISMATCH,
-         1,
-         kToolbarMismatch},
-        {"missing folder id", kFolderChanged, {empty}, DISP_E_TYPEMISMATCH, 0, kFolderMismatch},
-        {"one argument short",
-         kToolbarClicked,
-         {Int32Arg(1)},
-         DISP_E_BADPARAMCOUNT,
-         99,
-         L"XXX CWLMAApiEventSink::OnToolbarButtonClicked wrong arguments, hr(0x8002000E)"},
-        {"one argument over",
-         kFolderChanged,
-         {Int64Arg(1), Int64Arg(2)},
-         DISP_E_BADPARAMCOUNT,
-         99,
-         L"XXX CWLMAApiEventSink::OnFolderSelectionChanged wrong arguments, hr(0x8002000E)"},
+        {"text button id", kToolbarClicked, {Int32Arg(1), text}, kType, 0, kClickType},
+        {"object toolbar id", kToolbarClicked, {object, Int32Arg(1)}, kType, 1, kClickType},
+        {"too big", kToolbarClicked, {Int64Arg(1LL << 40), Int32Arg(1)}, kType, 1, kClickType},
+        {"missing folder id", kFolderChanged, {empty}, kType, 0, kFolderType},
+        {"one argument short", kToolbarClicked, {Int32Arg(1)}, kCount, 99, kClickCount},
+        {"one argument over", kFolderChanged, {Int64Arg(1), Int64Arg(2)}, kCount, 99, kFolderCount},
     };
     for (const BadCallCase& each : cases) {
         SCOPED_TRACE(each.name);
@@ -140,59 +141,6 @@ TEST(HostEventSinks, WrongArguments_AreRefusedWithOneLineAndNoMessage) {
         EXPECT_THAT(rig.journal.Entries(), ElementsAre(L"log " + std::wstring(each.line)));
     }
     ::SysFreeString(V_BSTR(&text));
-}
-
-struct EventCase {
-    const char* name;
-    std::function<ComPtr<CDispatchSink>(HostEventRig&)> make;
-    DISPID id;
-    std::vector<ControllerMessageRecord> messages;
-};
-
-template <class Sink>
-ComPtr<CDispatchSink> MakeAny(HostEventRig& rig) {
-    return MakeSink<Sink>(rig.relay, rig.log);
-}
-
-TEST(HostEventSinks, InitAndAccountEvents_ReachTheController) {
-    const EventCase cases[] = {
-        {"ready", MakeAny<CWLMApiInitEventSink>, 1, {{4029, 0, 0}}},
-        {"shutdown", MakeAny<CWLMApiInitEventSink>, 2, {{4030, 0, 0}, {WM_CLOSE, 0, 0}}},
-        {"default account", MakeAny<CWLMAMailAccountManagerEventSink>, 1, {{4028, 1, 1}}},
-    };
-    for (const EventCase& each : cases) {
-        SCOPED_TRACE(each.name);
-        HostEventRig rig;
-        const auto sink = each.make(rig);
-        EXPECT_EQ(FireEvent(*sink.Get(), each.id, {}), S_OK);
-        EXPECT_EQ(rig.Messages(), each.messages);
-    }
-}
-
-struct EntryCase {
-    const char* name;
-    std::function<ComPtr<CDispatchSink>(HostEventRig&)> make;
-    LPARAM index;
-};
-
-TEST(HostEventSinks, DropDownEntries_PostTheirIndexForEitherClickEvent) {
-    const EntryCase cases[] = {
-        {"settings", MakeAny<CSettingBtnEventSink>, 0},
-        {"statistics", MakeAny<CStatisticBtnEventSink>, 1},
-        {"on/off", MakeAny<COnOffBtnEventSink>, 2},
-        {"help", MakeAny<CHelpBtnEventSink>, 3},
-        {"about", MakeAny<CAboutBtnEventSink>, 4},
-    };
-    for (const EntryCase& each : cases) {
-        SCOPED_TRACE(each.name);
-        HostEventRig rig;
-        const auto sink = each.make(rig);
-        EXPECT_EQ(FireEvent(*sink.Get(), 1, {}), S_OK);
-        EXPECT_EQ(FireEvent(*sink.Get(), 2, {Int32Arg(5)}), S_OK);
-        EXPECT_THAT(rig.Messages(),
-                    ElementsAre(ControllerMessageRecord{4031, Signed(-1), each.index},
-                                ControllerMessageRecord{4031, Signed(-1), each.index}));
-    }
 }
 
 TEST(HostEventSinks, GetIDsOfNames_AnswersDeclaredNamesInAnyCase) {

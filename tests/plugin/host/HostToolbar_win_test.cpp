@@ -38,9 +38,7 @@ TEST(HostToolbar, CallsTheHostsMembersByNameWithTypedArguments) {
     rig.toolbar.SetCaption(group, entry, L"Off");
     rig.toolbar.EnableButton(group, logo, false);
 
-    EXPECT_EQ(group, 500);
-    EXPECT_EQ(logo, 501);
-    EXPECT_EQ(entry, 502);
+    EXPECT_EQ((std::vector<int32_t>{group, logo, entry}), (std::vector<int32_t>{500, 501, 502}));
     EXPECT_THAT(rig.host.calls,
                 ElementsAre(L"CreateToolbar(\"ORVA\")",
                             L"AddToolbarButton(500, \"Logo\", \"C:\\Res\\Q-orb.bmp\")",
@@ -81,7 +79,6 @@ TEST(HostToolbar, Failures_BecomeHostErrorsWithTheHostsWords) {
         EXPECT_THAT(error.what(), HasSubstr("The ribbon is locked"));
     }
 
-    FakeRibbonHost empty;
     Testing::HostEventRig events;
     CHostToolbar detached(events.relay, events.log);
     EXPECT_THROW(detached.CreateGroup(L"ORVA"), HostCallError);
