@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 
 #include "ListTestFiles.h"
@@ -13,11 +12,13 @@ namespace {
 using Testing::kHeader;
 using Testing::kMark;
 
+using Groups = std::map<std::wstring, EncodingGroup>;
+
 EncodingGroup Group(bool blocked, std::vector<int32_t> codePages) {
     return EncodingGroup{blocked, std::move(codePages)};
 }
 
-TEST(CEncodingSet, Save_WritesHeaderValueAndGroupsInNameOrder) {
+TEST(CEncodingSet, Save_WritesHeaderValueAndGroupsInNameOrder_LoadReadsThemBack) {
     Testing::TempFolder folder;
     const std::wstring path = folder.File(L"BlockEncodings.dat");
     CEncodingSet set;
@@ -30,20 +31,12 @@ TEST(CEncodingSet, Save_WritesHeaderValueAndGroupsInNameOrder) {
         std::string(kMark) + kHeader +
             "\n-3\nChinese Simplified\t1\t936\t20936\t52936\nEmpty\t1\nKorean\t0\t949\t51949\n",
         Testing::ReadFileBytes(path));
-}
-
-TEST(CEncodingSet, Load_ReadsWhatSaveWrote) {
-    Testing::TempFolder folder;
-    const std::wstring path = folder.File(L"BlockEncodings.dat");
-    CEncodingSet saved;
-    saved.SetValue(7);
-    saved.AddGroup(L"Cyrillic \u0416", Group(true, {866, 1251, -1, 2147483647}));
-    saved.AddGroup(L"Thai", Group(false, {874}));
-    saved.Save(path);
+    set.AddGroup(L"Cyrillic \u0416", Group(true, {866, 1251, -1, 2147483647}));
+    set.Save(path);
     CEncodingSet loaded;
     loaded.Load(path);
-    EXPECT_EQ(7, loaded.Value());
-    EXPECT_EQ(saved.Groups(), loaded.Groups());
+    EXPECT_EQ(-3, loaded.Value());
+    EXPECT_EQ(set.Groups(), loaded.Groups());
 }
 
 TEST(CEncodingSet, Load_MissingFileOrFolderGivesEmptySet) {
@@ -61,7 +54,6 @@ TEST(CEncodingSet, Load_MissingFileOrFolderGivesEmptySet) {
 
 // Line one is never read, line two is the value (its number prefix, else 0), groups follow.
 TEST(CEncodingSet, Parse_ValueFromLineTwoGroupsFromLineThree) {
-    using Groups = std::map<std::wstring, EncodingGroup>;
     const struct {
         std::wstring text;
         int32_t value;
@@ -93,9 +85,7 @@ TEST(CEncodingSet, Parse_CrLfAndMarksReadLikeLf) {
         CEncodingSet set;
         set.Load(path);
         EXPECT_EQ(5, set.Value());
-        EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"A", Group(false, {})},
-                                                         {L"Thai", Group(true, {874})}}),
-                  set.Groups());
+        EXPECT_EQ((Groups{{L"A", Group(false, {})}, {L"Thai", Group(true, {874})}}), set.Groups());
     }
 }
 
@@ -106,18 +96,13 @@ struct DamagedCase {
     EncodingGroup group;
 };
 
-void PrintTo(const DamagedCase& value, std::ostream* out) {
-    *out << value.label;
-}
-
 class EncodingDamagedLineTest : public ::testing::TestWithParam<DamagedCase> {};
 
 // The damaged line sits between two good ones, which must survive it.
 TEST_P(EncodingDamagedLineTest, Parse_KeepsWhatMakesSenseAndTheOtherLines) {
     CEncodingSet set;
     set.Parse(L"h\n9\nAlpha\t1\t1\n" + GetParam().line + L"\nZulu\t0\t2\n");
-    std::map<std::wstring, EncodingGroup> expected{{L"Alpha", Group(true, {1})},
-                                                   {L"Zulu", Group(false, {2})}};
+    Groups expected{{L"Alpha", Group(true, {1})}, {L"Zulu", Group(false, {2})}};
     if (!GetParam().name.empty()) {
         expected.emplace(GetParam().name, GetParam().group);
     }
@@ -158,7 +143,7 @@ TEST(CEncodingSet, SetBlocked_ChangesOnlyAnExistingGroup) {
     set.AddGroup(L"Thai", Group(false, {874}));
     EXPECT_TRUE(set.SetBlocked(L"Thai", true));
     EXPECT_FALSE(set.SetBlocked(L"thai", true));
-    EXPECT_EQ((std::map<std::wstring, EncodingGroup>{{L"Thai", Group(true, {874})}}), set.Groups());
+    EXPECT_EQ((Groups{{L"Thai", Group(true, {874})}}), set.Groups());
 }
 
 }  // namespace

@@ -1,13 +1,7 @@
 #pragma once
 
-#include <atomic>
-#include <chrono>
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
-#include <system_error>
 
 #include <gtest/gtest.h>
 

@@ -13,10 +13,6 @@ struct ExtractCase {
     std::string expected;
 };
 
-void PrintTo(const ExtractCase& value, std::ostream* out) {
-    *out << value.label;
-}
-
 class ExtractTaggedValueTest : public ::testing::TestWithParam<ExtractCase> {};
 
 TEST_P(ExtractTaggedValueTest, FindsTheValueByTheTagRule) {
@@ -54,9 +50,7 @@ TEST(IsStorableValue, RefusesWhatReadingWouldChange) {
     EXPECT_FALSE(IsStorableValue(L"a\nb"));
     EXPECT_FALSE(IsStorableValue(L"a<\\SA_ATTR>"));
     EXPECT_FALSE(IsStorableValue(L"<WL_REC>"));
-    std::wstring surrogate = L"a";
-    surrogate.push_back(static_cast<wchar_t>(0xDC00));
-    EXPECT_FALSE(IsStorableValue(surrogate));
+    EXPECT_FALSE(IsStorableValue(std::wstring{L'a', static_cast<wchar_t>(0xDC00)}));
 }
 
 }  // namespace

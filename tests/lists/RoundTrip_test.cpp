@@ -71,11 +71,8 @@ void ExpectEveryAddableEntryRoundTrips(const std::wstring& fileName) {
     EXPECT_EQ(firstBytes, Testing::ReadFileBytes(path));
 }
 
-TEST(SenderListRoundTrip, BlockedList_EveryValidatedEntryComesBackByteForByte) {
+TEST(SenderListRoundTrip, BothLists_EveryValidatedEntryComesBackByteForByte) {
     ExpectEveryAddableEntryRoundTrips<CBListSet>(L"BlackList.dat");
-}
-
-TEST(SenderListRoundTrip, ApprovedList_EveryValidatedEntryComesBackByteForByte) {
     ExpectEveryAddableEntryRoundTrips<CWListSet>(L"WhiteList.dat");
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "PageRig.h"
 
 namespace Orva::Ui {
@@ -24,14 +26,12 @@ TEST(AboutContent, BrandingWhereSet_LocalisedTextsElsewhere) {
     const AboutContent content =
         ReadAboutContent(rig.files.store, rig.strings, L"C:\\Addin\\", {L"1.0.0.0", L"abc123"});
 
-    EXPECT_EQ(content.title, L"ORVA Anti-Spam");
-    EXPECT_EQ(content.productName, L"Partner Mail Guard");
-    EXPECT_EQ(content.companyName, L"Halvion");
-    EXPECT_EQ(content.bannerPath, L"C:\\Addin\\Res\\Partner.bmp");
-    EXPECT_EQ(content.engineVersion, L"5.1.2");
-    EXPECT_EQ(content.patchVersion, L"00000000");
-    EXPECT_EQ(content.fileVersion, L"1.0.0.0");
-    EXPECT_EQ(content.privateBuild, L"abc123");
+    EXPECT_EQ(std::tie(content.title, content.productName, content.companyName, content.bannerPath,
+                       content.engineVersion, content.patchVersion, content.fileVersion,
+                       content.privateBuild),
+              std::make_tuple(L"ORVA Anti-Spam", L"Partner Mail Guard", L"Halvion",
+                              L"C:\\Addin\\Res\\Partner.bmp", L"5.1.2", L"00000000", L"1.0.0.0",
+                              L"abc123"));
 }
 
 TEST(AboutContent, NoBannerSet_KeepsTheBuiltInOne) {

@@ -16,7 +16,7 @@
 #include "support/fakes/platform/FakeProcessContext.h"
 #include "support/fakes/platform/FakeWindowMessaging.h"
 #include "support/fakes/plugin/FakeContacts.h"
-#include "ui/PageRig.h"
+#include "ui/SenderPageRig.h"
 
 namespace Orva::Ui {
 namespace {
@@ -50,17 +50,6 @@ public:
     int steps = 0;
 };
 
-class CountingBoxes final : public IMessageBoxes {
-public:
-    BoxAnswer Show(ZelCommon::Platform::WindowHandle, const std::wstring&, const std::wstring&,
-                   uint32_t) override {
-        ++shown;
-        return answer;
-    }
-    BoxAnswer answer = BoxAnswer::Yes;
-    int shown = 0;
-};
-
 struct ImportRig {
     ImportRig() {
         process.SetLastError(1400);
@@ -90,7 +79,7 @@ struct ImportRig {
     std::string blockedBefore;
     ZelCommon::Fakes::FakeContacts contacts;
     ScriptedProgress progress;
-    CountingBoxes boxes;
+    Testing::ScriptedUser boxes;
     Testing::MapStrings strings;
     ZelCommon::Fakes::FakeWindowMessaging messaging;
     ZelCommon::Platform::WindowHandle controller =
@@ -149,9 +138,8 @@ TEST_P(ImportContactListAddresses, AddsOnlyAcceptableAddressesOnce) {
     std::vector<Lists::SenderEntry> expected = GetParam().added;
     expected.push_back({L"n", L"kept@example.com"});
     std::vector<Lists::SenderEntry> approved = rig.Approved();
-    const auto byAddress = [](const auto& a, const auto& b) { return a.address < b.address; };
-    std::sort(expected.begin(), expected.end(), byAddress);
-    std::sort(approved.begin(), approved.end(), byAddress);
+    std::ranges::sort(expected, {}, &Lists::SenderEntry::address);
+    std::ranges::sort(approved, {}, &Lists::SenderEntry::address);
     EXPECT_EQ(approved, expected);
     EXPECT_EQ(outcome.added, static_cast<int>(GetParam().added.size()));
 }
@@ -222,9 +210,9 @@ TEST_P(ImportContactListFiles, RewritesTheBlockedListOnlyAfterKeepingIt) {
     EXPECT_FALSE(rig.progress.open);
 }
 
-std::vector<FakeContact> FiveNewContacts() {
+std::vector<FakeContact> NewContacts(int count) {
     std::vector<FakeContact> contacts;
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < count; ++i) {
         contacts.push_back(Person(L"P", L"p" + std::to_wstring(i) + L"@example.com"));
     }
     return contacts;
@@ -243,18 +231,15 @@ INSTANTIATE_TEST_SUITE_P(
                   .contacts = {Person(L"N", L"new@example.com")},
                   .backupRefused = true,
                   .approvedWritten = true},
-        FilesCase{
-            .scenario = "ManagerNotCreated", .contacts = FiveNewContacts(), .failCreate = true},
-        FilesCase{.scenario = "FailsAtFirst", .contacts = FiveNewContacts(), .failAt = 0},
-        FilesCase{.scenario = "FailsInTheMiddle", .contacts = FiveNewContacts(), .failAt = 2},
-        FilesCase{.scenario = "FailsAtLast", .contacts = FiveNewContacts(), .failAt = 4}),
+        FilesCase{.scenario = "ManagerNotCreated", .contacts = NewContacts(5), .failCreate = true},
+        FilesCase{.scenario = "FailsAtFirst", .contacts = NewContacts(5), .failAt = 0},
+        FilesCase{.scenario = "FailsInTheMiddle", .contacts = NewContacts(5), .failAt = 2},
+        FilesCase{.scenario = "FailsAtLast", .contacts = NewContacts(5), .failAt = 4}),
     [](const auto& test) { return std::string(test.param.scenario); });
 
 TEST(ImportContactList, CancelledDuringThirdContact_SavesTheFirstThree) {
     ImportRig rig;
-    for (int i = 0; i < 6; ++i) {
-        rig.contacts.contacts.push_back(Person(L"P", L"p" + std::to_wstring(i) + L"@example.com"));
-    }
+    rig.contacts.contacts = NewContacts(6);
     rig.contacts.onRead = [&](size_t position) { rig.progress.cancel = position == 2; };
     const ContactImportOutcome outcome = rig.Run();
     EXPECT_TRUE(outcome.cancelled);
@@ -270,10 +255,7 @@ TEST(ImportContactList, TwentyThousandContactsNearTheLimit_FillsTheListAndFinish
         listed.push_back("old" + std::to_string(i) + "@example.com");
     }
     WriteFileBytes(rig.paths.approved, ListFile("WL_REC", listed));
-    for (int i = 0; i < 20000; ++i) {
-        rig.contacts.contacts.push_back(
-            Person(L"P", L"new" + std::to_wstring(i) + L"@example.com"));
-    }
+    rig.contacts.contacts = NewContacts(20000);
     const ContactImportOutcome outcome = rig.Run();
     EXPECT_EQ(outcome.added, 10);
     EXPECT_FALSE(outcome.cancelled);
@@ -287,7 +269,7 @@ struct ConflictCase {
     const char* scenario;
     bool controllerExists;
     BoxAnswer answer;
-    int questions;
+    size_t questions;
     int added;
 };
 
@@ -301,10 +283,10 @@ TEST_P(ImportContactListConflict, AsksOnlyOverTheControllerWindow) {
     if (!GetParam().controllerExists) {
         rig.messaging.RemoveWindow(rig.controller);
     }
-    rig.boxes.answer = GetParam().answer;
+    rig.boxes.answers = {GetParam().answer};
     rig.contacts.contacts = {Person(L"X", L"x@example.com")};
     EXPECT_EQ(rig.Run().added, GetParam().added);
-    EXPECT_EQ(rig.boxes.shown, GetParam().questions);
+    EXPECT_EQ(rig.boxes.shown.size(), GetParam().questions);
     EXPECT_EQ(
         rig.Logged(L"CToolBarWnd::ImportContactList() Get Agent handle failed, error: [1400]"),
         !GetParam().controllerExists);

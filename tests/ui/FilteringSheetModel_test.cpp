@@ -38,13 +38,8 @@ TEST(FilteringSheet, PlaceSheetButtons_HelpLeft_CancelRightmost_SixPixelsApart) 
 
 TEST(FilteringSheet, SetUp_LoadsBothListsAndKeepsWhatItFound) {
     Testing::SenderPageRig rig;
-    const std::wstring data = rig.files.temp.Path();
-    {
-        Lists::CWListSet approved;
-        approved.Add(L"anna@example.com", {L"Anna", L"anna@example.com"});
-        approved.Save(Lists::ApprovedListPath(data));
-    }
-    Testing::WriteFileBytes(rig.files.temp.Root() / "BlackList.dat", "not a list\n");
+    rig.WriteApproved({L"anna@example.com"});
+    Testing::WriteFileBytes(rig.paths.blocked, "not a list\n");
     CFilteringSheetModel& sheet = rig.sheet;
     sheet.SetUp();
     EXPECT_EQ(sheet.ApprovedLoad(), Lists::ListLoad::Loaded);

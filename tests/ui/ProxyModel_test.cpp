@@ -53,12 +53,12 @@ struct ProxyRig : Testing::PageRig {
 };
 
 TEST(ProxyChecks, HostLengthAndCodes_PortTextUpToItsFirstZeroByte) {
-    for (const auto& [host, valid] :
-         std::initializer_list<std::pair<std::wstring, bool>>{{L"", false},
-                                                              {std::wstring(256, L'h'), true},
-                                                              {std::wstring(257, L'h'), false},
-                                                              {L"h\u0080", true},
-                                                              {L"h\u0081", false}}) {
+    const std::pair<std::wstring, bool> hosts[] = {{L"", false},
+                                                   {std::wstring(256, L'h'), true},
+                                                   {std::wstring(257, L'h'), false},
+                                                   {L"h\u0080", true},
+                                                   {L"h\u0081", false}};
+    for (const auto& [host, valid] : hosts) {
         EXPECT_EQ(IsValidProxyHost(host), valid) << host.size();
     }
     // Read as bytes, "8x" ends after its "8"; U+0661 starts with the byte 'a'.

@@ -15,12 +15,15 @@ using enum BoxAnswer;
 using Settings::SettingId;
 using Strings = std::vector<std::wstring>;
 
-Strings Shown(const CSenderPageModel& page) {
-    Strings rows;
-    for (size_t row = 0; row < page.Rows().Count(); ++row) {
-        rows.push_back(page.Rows().At(row).address);
+Strings Shown(const CSenderRows& rows) {
+    Strings shown;
+    for (size_t row = 0; row < rows.Count(); ++row) {
+        shown.push_back(rows.At(row).address);
     }
-    return rows;
+    return shown;
+}
+Strings Shown(const CSenderPageModel& page) {
+    return Shown(page.Rows());
 }
 
 TEST(SenderPageModel, AddThenOk_ListsFilesBoxesAndAgentFollowTheAnswers) {
@@ -234,11 +237,7 @@ TEST(SenderRows, SortByEitherColumnAndRefresh_SelectionStaysWithItsAddress) {
     };
     for (const auto& [column, order] : steps) {
         rows.SortBy(column);
-        Strings shown;
-        for (size_t row = 0; row < rows.Count(); ++row) {
-            shown.push_back(rows.At(row).address);
-        }
-        EXPECT_EQ(shown, order);
+        EXPECT_EQ(Shown(rows), order);
         EXPECT_EQ(rows.SelectedAddresses(), Strings{L"a@x.com"});
     }
     rows.Reset({{L"", L"0@x.com"}, {L"zed", L"A@x.com"}});

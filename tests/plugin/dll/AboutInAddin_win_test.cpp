@@ -41,15 +41,12 @@ TEST_F(AboutInAddin, AboutEntry_ShowsTheModulesVersionAndClosesOnlyWhenTheSuiteI
                  return true;
              }},
             {"OK handled", [ticks = 0]() mutable { return ++ticks > 5; }},
-            {"still open while the suite is busy",
-             [&] {
-                 if (!::IsWindow(about)) {
-                     return false;
-                 }
-                 suite.reset();
-                 Testing::Click(::GetDlgItem(about, IDOK));
-                 return true;
-             }},
+            When(
+                "still open while the suite is busy", [&] { return ::IsWindow(about) != FALSE; },
+                [&] {
+                    suite.reset();
+                    Testing::Click(::GetDlgItem(about, IDOK));
+                }),
         });
 
     EXPECT_EQ(stopped, "");

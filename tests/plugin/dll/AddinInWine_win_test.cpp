@@ -47,32 +47,6 @@ TEST_F(AddinInWine, UnloadWithoutTheHostsShutdown_LeavesNoWindowBehind) {
     EXPECT_FALSE(::GetClassInfoW(loadedAt, kControllerClass.c_str(), &registered));
 }
 
-TEST_F(AddinInWine, CopyDataFromTheAgentsProcess_AWholeFlaggedRecordAsksToDeleteAllSpam) {
-    ASSERT_TRUE(addin) << ::GetLastError();
-    ASSERT_EQ(InitializePlugin(), TRUE);
-    const HWND agent = Testing::WaitForWindowTitled(kAgentTitle);
-    ASSERT_NE(agent, nullptr);
-    // Wine has no store library registered: the deletion starts, and gives up on the store.
-    const std::string deletion = "@@@ CToolBarWnd::ProcDeleteAllSpamMsg  IN";
-
-    Orva::Sim::AgentCommand copy;
-    copy.delivery = Orva::Sim::Delivery::CopyData;
-    copy.copyDataId = 1078;
-    copy.payload = {1, 2, 3};
-    // The agent's copy-data is sent: the controller has handled it when the command returns.
-    EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
-    EXPECT_EQ(LogText().find(deletion), std::string::npos);
-    EXPECT_NE(Controller(), nullptr);
-
-    copy.payload.assign(17, 0);
-    copy.payload[16] = 1;
-    EXPECT_EQ(Testing::SendAgentCommand(agent, copy), 1);
-    EXPECT_TRUE(LogShows(deletion));
-    EXPECT_TRUE(LogShows("!!! the action of delete item is not complete"));
-
-    ShutDownController();
-}
-
 // The host's events, fired through the host's own objects, drive the loaded add-in from the
 // ready event to the shut-down, with the real agent at the other end.
 TEST_F(AddinInWine, HostEvents_RunTheAddinFromReadyToShutdown) {

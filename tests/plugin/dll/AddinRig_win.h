@@ -8,6 +8,7 @@
 
 #include <cwchar>
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "common_src/platform/Path.h"
@@ -193,6 +194,18 @@ constexpr CLSID kInitClass = {
     0x3f0b5a61, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x41}};
 constexpr CLSID kApiClass = {
     0x3f0b5a62, 0x2c1e, 0x4d7a, {0x8e, 0x21, 0x5b, 0x6c, 0x11, 0x02, 0x9a, 0x42}};
+
+// A step that waits until `ready` and then acts.
+inline Testing::CModalDriver::NamedStep When(const char* name, std::function<bool()> ready,
+                                             std::function<void()> act) {
+    return {name, [ready, act] {
+                if (!ready()) {
+                    return false;
+                }
+                act();
+                return true;
+            }};
+}
 
 // The loaded add-in with the host's objects and the simulated agent: a ribbon entry opens a
 // window of the add-in, and a driver acts inside its modal loop as the user.

@@ -74,17 +74,17 @@ TEST_F(FilteringSheetInAddin, UserChangesEveryPage_OkWritesTheSettingsAndTellsTh
         ShowPage(sheet, 5),
         OnControl(sheet, "notify box", IDC_CHECK_NOTIFY_ICON, &Testing::Click),
         OnControl(sheet, "auto-move box", IDC_CHECK_AUTO_MOVED, &Testing::Click),
-        {"purge days typed",
-         [this] {
-             const HWND edit = FindDescendant(sheet, IDC_EDIT_PURGE_DAYS);
-             if (edit == nullptr || !::IsWindowEnabled(edit)) {
-                 return false;
-             }
-             ::SetFocus(edit);
-             ::SendMessageW(edit, EM_SETSEL, 0, -1);
-             Testing::PostText(edit, L"4x5");
-             return true;
-         }},
+        When(
+            "purge days typed",
+            [this] {
+                return ::IsWindowEnabled(FindDescendant(sheet, IDC_EDIT_PURGE_DAYS)) != FALSE;
+            },
+            [this] {
+                const HWND edit = FindDescendant(sheet, IDC_EDIT_PURGE_DAYS);
+                ::SetFocus(edit);
+                ::SendMessageW(edit, EM_SETSEL, 0, -1);
+                Testing::PostText(edit, L"4x5");
+            }),
         {"help",
          [this] {
              Testing::Click(::GetDlgItem(sheet, IDC_SHEET_HELP));
@@ -142,14 +142,10 @@ TEST_F(FilteringSheetInAddin, SpaceOnAnEncodingRowThenOk_GroupBlockedAndAgentTol
                                             LVIS_SELECTED | LVIS_FOCUSED);
                       Testing::PostKey(list, VK_SPACE);
                   }),
-        {"OK once ticked",
-         [this] {
-             if (!ListView_GetCheckState(FindDescendant(sheet, IDC_LIST_VIEW), 1)) {
-                 return false;
-             }
-             Testing::Click(::GetDlgItem(sheet, IDOK));
-             return true;
-         }},
+        When(
+            "OK once ticked",
+            [this] { return ListView_GetCheckState(FindDescendant(sheet, IDC_LIST_VIEW), 1) != 0; },
+            [this] { Testing::Click(::GetDlgItem(sheet, IDOK)); }),
     });
 
     EXPECT_EQ(stopped, "");
@@ -177,15 +173,13 @@ TEST_F(FilteringSheetInAddin, SuiteBusyThenAltC_OkIgnoredAndNothingWritten) {
                       Testing::Click(::GetDlgItem(::GetAncestor(slider, GA_ROOT), IDOK));
                   }),
         {"OK handled", [ticks = 0]() mutable { return ++ticks > 5; }},
-        {"still open while the suite is busy",
-         [this, &suite] {
-             if (Testing::FindPropertySheet() != sheet) {
-                 return false;
-             }
-             suite.reset();
-             Testing::PostKey(::GetFocus(), 'C', true);
-             return true;
-         }},
+        When(
+            "still open while the suite is busy",
+            [this] { return Testing::FindPropertySheet() == sheet; },
+            [&suite] {
+                suite.reset();
+                Testing::PostKey(::GetFocus(), 'C', true);
+            }),
     });
 
     EXPECT_EQ(stopped, "");

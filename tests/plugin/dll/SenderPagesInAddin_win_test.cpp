@@ -39,6 +39,17 @@ protected:
                     return sheet != nullptr && ListShows(rows);
                 }};
     }
+    // Waits for the list to show `rows`, then acts.
+    CModalDriver::NamedStep OnceListShows(const char* name, std::vector<std::wstring> rows,
+                                          std::function<void()> act) {
+        return {name, [this, rows, act] {
+                    if (!ListShows(rows)) {
+                        return false;
+                    }
+                    act();
+                    return true;
+                }};
+    }
     // Types into the edit dialog once it shows `shown` as the address, and presses OK.
     static CModalDriver::NamedStep Type(std::wstring shown, std::wstring name,
                                         std::wstring address) {
@@ -73,54 +84,43 @@ TEST_F(SenderPagesInAddin, AddEditByDoubleClickRemoveThenOk_FileWrittenAndAgentT
     ASSERT_TRUE(StartAddin()) << LogText();
 
     const std::string stopped = RunAfterClick(
-        kSettingsEntry, {ApprovedPageShows({L"old@example.com"}),
-                         {"add",
-                          [this] {
-                              Testing::Click(FindDescendant(sheet, IDC_BUTTON_ADD_SENDER));
-                              return true;
-                          }},
-                         Type(L"", L"Ann", L" ann@example.com "),
-                         {"double click on the new row, none selected",
-                          [this] {
-                              if (!ListShows({L"ann@example.com", L"old@example.com"})) {
-                                  return false;
-                              }
-                              ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
-                              RECT row{};
-                              ListView_GetItemRect(List(), 0, &row, LVIR_LABEL);
-                              ::PostMessageW(List(), WM_LBUTTONDBLCLK, MK_LBUTTON,
-                                             MAKELPARAM(row.left + 4, (row.top + row.bottom) / 2));
-                              return true;
-                          }},
-                         Type(L"ann@example.com", L"Ann Smith", L"anna@example.com"),
-                         {"remove the old one",
-                          [this] {
-                              if (!ListShows({L"anna@example.com", L"old@example.com"})) {
-                                  return false;
-                              }
-                              ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
-                              ListView_SetItemState(List(), 1, LVIS_SELECTED, LVIS_SELECTED);
-                              Testing::Click(FindDescendant(sheet, IDC_BUTTON_REMOVE_SENDER));
-                              return true;
-                          }},
-                         {"OK in the question",
-                          [this] {
-                              const HWND box = ::GetActiveWindow();
-                              wchar_t type[16] = {};
-                              ::GetClassNameW(box, type, 16);
-                              if (box == sheet || std::wstring(type) != L"#32770") {
-                                  return false;
-                              }
-                              Testing::Click(::GetDlgItem(box, IDOK));
-                              return true;
-                          }},
-                         {"sheet OK", [this] {
-                              if (!ListShows({L"anna@example.com"})) {
-                                  return false;
-                              }
-                              Testing::Click(::GetDlgItem(sheet, IDOK));
-                              return true;
-                          }}});
+        kSettingsEntry,
+        {ApprovedPageShows({L"old@example.com"}),
+         {"add",
+          [this] {
+              Testing::Click(FindDescendant(sheet, IDC_BUTTON_ADD_SENDER));
+              return true;
+          }},
+         Type(L"", L"Ann", L" ann@example.com "),
+         OnceListShows("double click on the new row, none selected",
+                       {L"ann@example.com", L"old@example.com"},
+                       [this] {
+                           ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
+                           RECT row{};
+                           ListView_GetItemRect(List(), 0, &row, LVIR_LABEL);
+                           ::PostMessageW(List(), WM_LBUTTONDBLCLK, MK_LBUTTON,
+                                          MAKELPARAM(row.left + 4, (row.top + row.bottom) / 2));
+                       }),
+         Type(L"ann@example.com", L"Ann Smith", L"anna@example.com"),
+         OnceListShows("remove the old one", {L"anna@example.com", L"old@example.com"},
+                       [this] {
+                           ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
+                           ListView_SetItemState(List(), 1, LVIS_SELECTED, LVIS_SELECTED);
+                           Testing::Click(FindDescendant(sheet, IDC_BUTTON_REMOVE_SENDER));
+                       }),
+         {"OK in the question",
+          [this] {
+              const HWND box = ::GetActiveWindow();
+              wchar_t type[16] = {};
+              ::GetClassNameW(box, type, 16);
+              if (box == sheet || std::wstring(type) != L"#32770") {
+                  return false;
+              }
+              Testing::Click(::GetDlgItem(box, IDOK));
+              return true;
+          }},
+         OnceListShows("sheet OK", {L"anna@example.com"},
+                       [this] { Testing::Click(::GetDlgItem(sheet, IDOK)); })});
 
     EXPECT_EQ(stopped, "");
     EXPECT_TRUE(Testing::PumpMessagesUntil([] { return Testing::FindPropertySheet() == nullptr; }));
@@ -160,13 +160,8 @@ TEST_F(SenderPagesInAddin, ImportButton_ContactsSavedAndShown_BlockedListKept) {
                               Testing::Click(FindDescendant(sheet, IDC_BUTTON_IMPORT_CONTACTS));
                               return true;
                           }},
-                         {"sheet Cancel", [this] {
-                              if (!ListShows({L"ann@work.example", L"bo@work.example"})) {
-                                  return false;
-                              }
-                              Testing::Click(::GetDlgItem(sheet, IDCANCEL));
-                              return true;
-                          }}});
+                         OnceListShows("sheet Cancel", {L"ann@work.example", L"bo@work.example"},
+                                       [this] { Testing::Click(::GetDlgItem(sheet, IDCANCEL)); })});
 
     EXPECT_EQ(stopped, "") << LogText();
     EXPECT_TRUE(Testing::PumpMessagesUntil([] { return Testing::FindPropertySheet() == nullptr; }));

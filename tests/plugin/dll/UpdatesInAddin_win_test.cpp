@@ -7,20 +7,6 @@
 namespace Orva::Plugin {
 namespace {
 
-using Testing::CModalDriver;
-
-// A step that waits until `ready` and then acts.
-CModalDriver::NamedStep When(const char* name, std::function<bool()> ready,
-                             std::function<void()> act) {
-    return {name, [ready, act] {
-                if (!ready()) {
-                    return false;
-                }
-                act();
-                return true;
-            }};
-}
-
 class UpdatesInAddin : public AddinWithRibbon {};
 
 // From the About box's button: Alt+O is swallowed while OK is disabled and a change enables it;

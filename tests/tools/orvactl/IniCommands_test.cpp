@@ -79,44 +79,38 @@ TEST_F(IniCommandsTest, ManyKeys_AreAllListed) {
     EXPECT_EQ(RunTool({L"ini", L"keys", file, L"General"}).out, expected);
 }
 
-TEST(IniCommandsBadArgs, UsageErrors_ReportOnStandardErrorWithNothingOnStandardOutput) {
-    const std::vector<std::vector<std::wstring>> cases = {
-        {},
-        {L"ini"},
-        {L"ini", L"frobnicate", L"f"},
-        {L"ini", L"get", L"f", L"General"},
-        {L"ini", L"get", L"f", L"S", L"K", L"D", L"extra"},
-        {L"ini", L"set", L"f", L"S", L"K"},
-        {L"ini", L"sections"},
-        {L"ini", L"keys", L"f"},
-        {L"bogus"},
-    };
-    for (const auto& args : cases) {
-        SCOPED_TRACE(testing::PrintToString(args));
-        const auto run = RunTool(args);
-        EXPECT_EQ(run.exitCode, kExitUsage);
-        EXPECT_EQ(run.out, L"");
-        EXPECT_EQ(run.err.rfind(L"orvactl: ", 0), 0u);
-    }
-}
-
-TEST(IniCommandsFiles, FilesThatCannotBeUsed_FailNamingTheProblem) {
+// A usage error or a file that cannot be used: the problem named on standard error only.
+TEST(IniCommandsErrors, BadArgumentsAndUnusableFiles_ReportOnStandardErrorOnly) {
     Testing::TempFolder temp;
     const struct {
         std::vector<std::wstring> args;
+        int exitCode;
         const wchar_t* said;
     } cases[] = {
-        {{L"ini", L"get", temp.File(L"absent.ini"), L"General", L"Debug"}, L"absent.ini"},
-        {{L"ini", L"sections", temp.Path()}, L"folder"},
-        {{L"ini", L"set", temp.Path(), L"General", L"Debug", L"1"}, L"folder"},
+        {{}, kExitUsage, L""},
+        {{L"ini"}, kExitUsage, L""},
+        {{L"ini", L"frobnicate", L"f"}, kExitUsage, L""},
+        {{L"ini", L"get", L"f", L"General"}, kExitUsage, L""},
+        {{L"ini", L"get", L"f", L"S", L"K", L"D", L"extra"}, kExitUsage, L""},
+        {{L"ini", L"set", L"f", L"S", L"K"}, kExitUsage, L""},
+        {{L"ini", L"sections"}, kExitUsage, L""},
+        {{L"ini", L"keys", L"f"}, kExitUsage, L""},
+        {{L"bogus"}, kExitUsage, L""},
+        {{L"ini", L"get", temp.File(L"absent.ini"), L"General", L"Debug"},
+         kExitFailure,
+         L"absent.ini"},
+        {{L"ini", L"sections", temp.Path()}, kExitFailure, L"folder"},
+        {{L"ini", L"set", temp.Path(), L"General", L"Debug", L"1"}, kExitFailure, L"folder"},
         {{L"ini", L"set", temp.Folder(L"nope") + L"x.ini", L"General", L"Debug", L"1"},
+         kExitFailure,
          L"does not exist"},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(testing::PrintToString(each.args));
         const auto run = RunTool(each.args);
-        EXPECT_EQ(run.exitCode, kExitFailure);
+        EXPECT_EQ(run.exitCode, each.exitCode);
         EXPECT_EQ(run.out, L"");
+        EXPECT_EQ(run.err.rfind(L"orvactl: ", 0), 0u);
         EXPECT_NE(run.err.find(each.said), std::wstring::npos);
     }
 }

@@ -15,15 +15,12 @@
 namespace Orva::Orvactl {
 namespace {
 
+using Testing::ReadFileBytes;
+using Testing::WriteFileBytes;
+
 class ListsCommandTest : public ::testing::Test {
 protected:
     std::wstring File(const std::wstring& name) const { return m_folder.File(name); }
-    static void Write(const std::wstring& path, const std::string& bytes) {
-        Testing::WriteFileBytes(std::filesystem::path(path), bytes);
-    }
-    static std::string Read(const std::wstring& path) {
-        return Testing::ReadFileBytes(std::filesystem::path(path));
-    }
     static std::string ListBytes(const std::string& recordTag,
                                  const std::vector<std::pair<std::string, std::string>>& entries) {
         std::string bytes = "\xEF\xBB\xBF; Written by ORVA v3.5 (c) 2005 Halvion\n";
@@ -118,7 +115,7 @@ TEST_F(ListsCommandTest, Outcomes_PrintTheirTextAndExitCode) {
               std::pair(m_text, test.text)}) {
             std::filesystem::remove(std::filesystem::path(path));
             if (!bytes.empty()) {
-                Write(path, bytes);
+                WriteFileBytes(path, bytes);
             }
         }
         std::vector<std::wstring> args = test.args;
@@ -130,8 +127,10 @@ TEST_F(ListsCommandTest, Outcomes_PrintTheirTextAndExitCode) {
         EXPECT_NE(std::wstring::npos, m_err.Text().find(test.errPart))
             << test.label << ": " << testing::PrintToString(m_err.Text());
         if (test.exitCode != kExitOk) {
-            EXPECT_EQ(test.white.empty() ? "<missing>" : test.white, Read(m_white)) << test.label;
-            EXPECT_EQ(test.black.empty() ? "<missing>" : test.black, Read(m_black)) << test.label;
+            EXPECT_EQ(test.white.empty() ? "<missing>" : test.white, ReadFileBytes(m_white))
+                << test.label;
+            EXPECT_EQ(test.black.empty() ? "<missing>" : test.black, ReadFileBytes(m_black))
+                << test.label;
         }
     }
 }
@@ -143,7 +142,7 @@ TEST_F(ListsCommandTest, AgentWindow_IsToldAfterEachWriteOnly) {
         told += m.message == 1033 ? 1 : 100;
         return intptr_t{0};
     });
-    Write(m_text, "c@d.com\n");
+    WriteFileBytes(m_text, "c@d.com\n");
     EXPECT_EQ(kExitOk, Run({L"add", m_black, L"a@b.com"}));
     EXPECT_EQ(kExitFailure, Run({L"add", m_black, L"a@b.com"}));
     EXPECT_EQ(kExitOk, Run({L"import", m_black, L"--from", m_text}));
@@ -165,7 +164,7 @@ TEST_F(ListsCommandTest, Validate_ReportsEachArgument) {
 }
 
 TEST_F(ListsCommandTest, BadArguments_AreUsageErrors) {
-    Write(File(L"Other.dat"), ListBytes("WL_REC", {}));
+    WriteFileBytes(File(L"Other.dat"), ListBytes("WL_REC", {}));
     EXPECT_EQ(kExitUsage, Run({L"show", File(L"Other.dat")}));
     EXPECT_NE(std::wstring::npos, m_err.Text().find(L"WhiteList.dat"));
     EXPECT_EQ(kExitUsage, Run({}));
@@ -178,7 +177,7 @@ TEST_F(ListsCommandTest, BadArguments_AreUsageErrors) {
     EXPECT_EQ(kExitUsage, Run({L"import", m_white}));
     EXPECT_EQ(kExitUsage, Run({L"import", m_white, L"--from"}));
     EXPECT_NE(std::wstring::npos, m_err.Text().find(L"orvactl --help"));
-    EXPECT_EQ("<missing>", Read(m_white));
+    EXPECT_EQ("<missing>", ReadFileBytes(m_white));
 }
 
 struct RestoreCase {
@@ -201,14 +200,14 @@ TEST_F(ListsCommandTest, Restore_PutsTheBackupBackOnlyWhenItIsAList) {
     };
     m_windows.AddWindow(L"{56639265-C81B-440d-B5CD-3A7ED4F42777}");
     for (const RestoreCase& test : cases) {
-        Write(m_black, current);
+        WriteFileBytes(m_black, current);
         std::filesystem::remove(std::filesystem::path(m_black + L".bak"));
         if (!test.backup.empty()) {
-            Write(m_black + L".bak", test.backup);
+            WriteFileBytes(m_black + L".bak", test.backup);
         }
         m_windows.ClearMessages();
         EXPECT_EQ(test.exitCode, Run({L"restore", L"--data", m_folder.Path()})) << test.label;
-        EXPECT_EQ(test.restored ? test.backup : current, Read(m_black)) << test.label;
+        EXPECT_EQ(test.restored ? test.backup : current, ReadFileBytes(m_black)) << test.label;
         EXPECT_EQ(test.told, m_windows.Messages().size()) << test.label;
         EXPECT_EQ(test.restored, m_err.Text().empty()) << test.label;
     }

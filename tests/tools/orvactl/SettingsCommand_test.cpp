@@ -141,24 +141,31 @@ TEST_F(SettingsCommandTest, UsersChange_SurvivesTheNextStartAsStored) {
     EXPECT_EQ(RunTool({L"ini", L"get", userFile, L"General", L"ProtectLevel"}).out, L"1\n");
 }
 
-TEST_F(SettingsCommandTest, FoldersThatCannotBeUsed_FailNamingTheProblem) {
+// Folders that cannot be used fail naming the problem; missing or unknown options are usage
+// errors.
+TEST_F(SettingsCommandTest, UnusableFoldersAndBadOptions_FailOnStandardErrorOnly) {
     ZelCommon::Path::CreateFolderWithParents(userFile);
     const std::wstring plainFile = temp.File(L"plain.txt");
     ASSERT_EQ(RunTool({L"ini", L"set", plainFile, L"S", L"K", L"V"}).exitCode, kExitOk);
+    const std::wstring settings = L"settings", install = L"--install-dir", user = L"--user-dir";
     const struct {
-        std::wstring installDir;
-        std::wstring userDir;
+        std::vector<std::wstring> args;
+        int exitCode;
         const wchar_t* said;
     } cases[] = {
-        {temp.Folder(L"gone"), userDir, L"gone"},
-        {installDir, userDir, L"folder"},  // the user's file is a folder
-        {installDir, plainFile, L"not a folder"},
+        {{settings, install, temp.Folder(L"gone"), user, userDir}, kExitFailure, L"gone"},
+        {{settings, install, installDir, user, userDir}, kExitFailure, L"folder"},  // user's file
+        {{settings, install, installDir, user, plainFile}, kExitFailure, L"not a folder"},
+        {{settings}, kExitUsage, L"--help"},
+        {{settings, install, L"x"}, kExitUsage, L"--help"},
+        {{settings, user, L"x"}, kExitUsage, L"--help"},
+        {{settings, install, L"x", user}, kExitUsage, L"--help"},
+        {{settings, install, L"x", user, L"y", L"--colour", L"z"}, kExitUsage, L"--help"},
     };
     for (const auto& each : cases) {
-        SCOPED_TRACE(testing::PrintToString(each.said));
-        const auto run =
-            RunTool({L"settings", L"--install-dir", each.installDir, L"--user-dir", each.userDir});
-        EXPECT_EQ(run.exitCode, kExitFailure);
+        SCOPED_TRACE(testing::PrintToString(each.args));
+        const auto run = RunTool(each.args);
+        EXPECT_EQ(run.exitCode, each.exitCode);
         EXPECT_EQ(run.out, L"");
         EXPECT_NE(run.err.find(each.said), std::wstring::npos);
     }
@@ -172,20 +179,6 @@ TEST_F(SettingsCommandTest, InstallFolderWithoutIni_NotesItAndShowsDefaults) {
     EXPECT_NE(run.err.find(L"does not exist"), std::wstring::npos);
     EXPECT_EQ(Find(ParseTable(run.out), L"General", L"NotifyIcon")->source, L"preset");
     EXPECT_EQ(Find(ParseTable(run.out), L"General", L"ProtectLevel")->value, L"2");
-}
-
-TEST(SettingsCommandArgs, MissingOrUnknownOptions_AreUsageErrors) {
-    for (const std::vector<std::wstring>& args : std::vector<std::vector<std::wstring>>{
-             {L"settings"},
-             {L"settings", L"--install-dir", L"x"},
-             {L"settings", L"--user-dir", L"x"},
-             {L"settings", L"--install-dir", L"x", L"--user-dir"},
-             {L"settings", L"--install-dir", L"x", L"--user-dir", L"y", L"--colour", L"z"}}) {
-        const auto run = RunTool(args);
-        EXPECT_EQ(run.exitCode, kExitUsage);
-        EXPECT_EQ(run.out, L"");
-        EXPECT_NE(run.err.find(L"--help"), std::wstring::npos);
-    }
 }
 
 TEST(TextTable, PadsEveryColumnButTheLast) {

@@ -17,11 +17,7 @@
 namespace Orva::Orvactl {
 namespace {
 
-struct StringsRun {
-    int exitCode;
-    std::wstring out;
-    std::wstring err;
-};
+using StringsRun = Testing::OrvactlRun;
 
 StringsRun Strings(std::vector<std::wstring> args) {
     StringSink out;
