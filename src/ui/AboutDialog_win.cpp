@@ -8,7 +8,6 @@
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
 #include "ui/FeedbackDialog_win.h"
-#include "ui/Headline.h"
 #include "ui/ResourceModule_win.h"
 
 namespace Orva::Ui {
@@ -44,11 +43,8 @@ bool CAboutDlg::OnInitDialog() {
                                   reinterpret_cast<LPARAM>(m_banner.get()));
         }
     }
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
-    m_titleFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    ::SendDlgItemMessageW(Handle(), IDC_ABOUT_TITLE, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_titleFont.get()), FALSE);
+    m_titleFont = SetHeadlineFont(Handle(), {IDC_ABOUT_TITLE}, m_services.strings,
+                                  L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
     ::ShowWindow(Item(IDC_ABOUT_FEEDBACK), m_content.showFeedbackButton ? SW_SHOW : SW_HIDE);
     if (m_openUpdates) {
         PlaceUpdatesButton();

@@ -4,7 +4,6 @@
 
 #include "ui/ControlTexts.h"
 #include "ui/DialogIds.h"
-#include "ui/Headline.h"
 
 namespace Orva::Ui {
 
@@ -23,13 +22,9 @@ bool CAdvancedPage::OnInitDialog() {
     SetChecked(IDC_CHECK_DELETE_DELETED, m_model.DeleteDeleted());
     SetChecked(IDC_CHECK_NOTIFY_ICON, m_model.NotifyIcon());
     ::EnableWindow(Item(IDC_EDIT_PURGE_DAYS), m_model.PurgeDaysEnabled());
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
-    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    for (const int headline : {IDC_SPAM_FOLDER_TITLE, IDC_DELETED_TITLE, IDC_NOTIFY_TITLE}) {
-        ::SendDlgItemMessageW(Handle(), headline, WM_SETFONT,
-                              reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
-    }
+    m_headlineFont =
+        SetHeadlineFont(Handle(), {IDC_SPAM_FOLDER_TITLE, IDC_DELETED_TITLE, IDC_NOTIFY_TITLE},
+                        m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
     m_tips = std::make_unique<CToolTips>(Handle());
     m_tips->Add(Item(IDC_BUTTON_DELETE_NOW),
                 m_services.strings.LoadShown(L"IDS_TOOLTIP_DELETENOW"));

@@ -8,7 +8,6 @@
 #include "ui/ControlTexts.h"
 #include "ui/DialogIds.h"
 #include "ui/DialogTexts_win.h"
-#include "ui/Headline.h"
 
 namespace Orva::Ui {
 namespace {
@@ -26,11 +25,8 @@ bool CBlockEncodingPage::OnInitDialog() {
     m_filling = true;
     UseWhiteBackground();
     ApplyControlTexts(Handle(), EncodingsPageTexts(), m_services.strings);
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
-    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    ::SendDlgItemMessageW(Handle(), IDC_LIST_TITLE, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
+    m_headlineFont = SetHeadlineFont(Handle(), {IDC_LIST_TITLE}, m_services.strings,
+                                     L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
     m_model.Load();
     FillList(Item(IDC_LIST_VIEW));
     m_filling = false;

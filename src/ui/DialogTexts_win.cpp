@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "ui/Headline.h"
 
 namespace Orva::Ui {
@@ -34,8 +36,8 @@ bool FaceInstalled(HDC dc, const std::wstring& face) {
     return found;
 }
 
-}  // namespace
-
+// A bold headline font of `points` in `face`, as tall on this screen as the point size says;
+// the dialog's own face when `face` is empty or not installed.
 unique_hfont CreateHeadlineFont(HWND dialog, const std::wstring& face, int points) {
     LOGFONTW font{};
     if (const auto dialogFont = reinterpret_cast<HFONT>(::SendMessageW(dialog, WM_GETFONT, 0, 0))) {
@@ -55,6 +57,8 @@ unique_hfont CreateHeadlineFont(HWND dialog, const std::wstring& face, int point
     ::ReleaseDC(dialog, dc);
     return unique_hfont(::CreateFontIndirectW(&font));
 }
+
+}  // namespace
 
 CToolTips::CToolTips(HWND owner)
     : m_owner(owner),
@@ -80,6 +84,26 @@ void CToolTips::Add(HWND control, const std::wstring& text) {
     tool.uId = reinterpret_cast<UINT_PTR>(control);
     tool.lpszText = const_cast<wchar_t*>(text.c_str());
     ::SendMessageW(m_tips.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+unique_hfont SetHeadlineFont(HWND dialog, std::initializer_list<int> headlines,
+                             Settings::ILocalisedStrings& strings, std::wstring_view faceId,
+                             std::wstring_view sizeId) {
+    const FontSpec spec = HeadlineFont(strings, faceId, sizeId);
+    unique_hfont font = CreateHeadlineFont(dialog, spec.face, spec.points);
+    for (const int headline : headlines) {
+        ::SendDlgItemMessageW(dialog, headline, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()),
+                              FALSE);
+    }
+    return font;
+}
+
+std::wstring WindowText(HWND window) {
+    const int length = ::GetWindowTextLengthW(window);
+    std::wstring text(static_cast<std::size_t>(std::max(length, 0)) + 1, L'\0');
+    const int copied = ::GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+    text.resize(static_cast<std::size_t>(std::clamp(copied, 0, length)));
+    return text;
 }
 
 }  // namespace Orva::Ui

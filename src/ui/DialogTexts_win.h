@@ -2,8 +2,10 @@
 
 #include <windows.h>
 
+#include <initializer_list>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "common_src/platform/UniqueAny_win.h"
 #include "settings/localisation/LocalisedStrings.h"
@@ -16,10 +18,15 @@ namespace Orva::Ui {
 void ApplyControlTexts(HWND dialog, std::span<const ControlText> texts,
                        Settings::ILocalisedStrings& strings);
 
-// A bold headline font of `points` in `face`, as tall on this screen as the point size says;
-// the dialog's own face when `face` is empty or not installed.
-ZelCommon::Platform::unique_hfont CreateHeadlineFont(HWND dialog, const std::wstring& face,
-                                                     int points);
+// The headline font that `faceId` and `sizeId` name, set on each of `headlines`; they show it for
+// as long as the returned font lives.
+ZelCommon::Platform::unique_hfont SetHeadlineFont(HWND dialog, std::initializer_list<int> headlines,
+                                                  Settings::ILocalisedStrings& strings,
+                                                  std::wstring_view faceId,
+                                                  std::wstring_view sizeId);
+
+// The window's whole text; empty when it has none or is gone.
+std::wstring WindowText(HWND window);
 
 // Tooltips over controls of one dialog; they go with this object.
 class CToolTips {

@@ -1,5 +1,6 @@
 #include "ui/DialogWindow_win.h"
 
+#include "ui/DialogTexts_win.h"
 #include "ui/ResourceModule_win.h"
 
 namespace Orva::Ui {
@@ -12,6 +13,10 @@ INT_PTR CDialogWindow::RunModal(HWND owner) {
 bool CDialogWindow::CreateChild(HWND parent) {
     return ::CreateDialogParamW(ResourceModule(), MAKEINTRESOURCEW(m_templateId), parent,
                                 &DialogProcedure, reinterpret_cast<LPARAM>(this)) != nullptr;
+}
+
+std::wstring CDialogWindow::ItemText(int id) const {
+    return WindowText(Item(id));
 }
 
 void CDialogWindow::UseWhiteBackground() {

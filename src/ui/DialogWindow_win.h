@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <optional>
+#include <string>
 
 #include "common_src/platform/UniqueAny_win.h"
 
@@ -41,6 +42,7 @@ protected:
     // Pages and panels paint on white; their statics and check boxes follow.
     void UseWhiteBackground();
     HWND Item(int id) const { return ::GetDlgItem(m_window, id); }
+    std::wstring ItemText(int id) const;
     bool IsChecked(int id) const { return ::IsDlgButtonChecked(m_window, id) == BST_CHECKED; }
     void SetChecked(int id, bool checked) const {
         ::CheckDlgButton(m_window, id, checked ? BST_CHECKED : BST_UNCHECKED);

@@ -1,11 +1,11 @@
 #include "ui/DigitEdit_win.h"
 
-#include <algorithm>
 #include <exception>
 #include <string>
 #include <utility>
 
 #include "settings/log/DebugLog.h"
+#include "ui/DialogTexts_win.h"
 
 namespace Orva::Ui {
 namespace {
@@ -22,14 +22,6 @@ WNDPROC OriginalOf(HWND edit) {
 
 LONG_PTR CurrentProcedureOf(HWND edit) {
     return ::GetWindowLongPtrW(edit, GWLP_WNDPROC);
-}
-
-std::wstring TextOf(HWND edit) {
-    const int length = ::GetWindowTextLengthW(edit);
-    std::wstring text(static_cast<std::size_t>(std::max(length, 0)) + 1, L'\0');
-    const int copied = ::GetWindowTextW(edit, text.data(), static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(std::clamp(copied, 0, length)));
-    return text;
 }
 
 void LogFailure(const wchar_t* call) {
@@ -142,7 +134,7 @@ LRESULT CDigitEdit::OnMessage(WNDPROC original, UINT message, WPARAM wParam, LPA
 void CDigitEdit::CheckText() {
     ++m_nesting;
     try {
-        if (m_rule.OnTextChanged(TextOf(m_edit)) == CDigitEditRule::Reaction::PostRestore &&
+        if (m_rule.OnTextChanged(WindowText(m_edit)) == CDigitEditRule::Reaction::PostRestore &&
             ::PostMessageW(m_edit, kDigitEditRestoreMessage, 0, 0) == FALSE) {
             LogFailure(L"PostMessageW");
         }

@@ -1,7 +1,6 @@
 #include "ui/EditSenderDialog_win.h"
 
 #include <utility>
-#include <vector>
 
 #include "ui/ControlTexts.h"
 #include "ui/DialogIds.h"
@@ -30,13 +29,6 @@ bool CEditSenderDlg::OnInitDialog() {
     return false;
 }
 
-std::wstring CEditSenderDlg::TextOf(int id) const {
-    const HWND control = Item(id);
-    std::vector<wchar_t> text(static_cast<size_t>(::GetWindowTextLengthW(control)) + 1);
-    const int length = ::GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
-    return std::wstring(text.data(), static_cast<size_t>(length > 0 ? length : 0));
-}
-
 bool CEditSenderDlg::OnCommand(int id, int /*code*/, HWND /*control*/) {
     if (id == IDCANCEL) {
         ::EndDialog(Handle(), IDCANCEL);
@@ -46,8 +38,8 @@ bool CEditSenderDlg::OnCommand(int id, int /*code*/, HWND /*control*/) {
         return false;
     }
     EditSenderAnswer answer =
-        ConfirmEditedSender(TextOf(IDC_EDIT_SENDER_NAME), TextOf(IDC_EDIT_SENDER_ADDRESS), m_boxes,
-                            m_strings, reinterpret_cast<uintptr_t>(Handle()));
+        ConfirmEditedSender(ItemText(IDC_EDIT_SENDER_NAME), ItemText(IDC_EDIT_SENDER_ADDRESS),
+                            m_boxes, m_strings, reinterpret_cast<uintptr_t>(Handle()));
     if (!answer.accepted) {
         const int field = answer.refusedField == SenderField::Name ? IDC_EDIT_SENDER_NAME
                                                                    : IDC_EDIT_SENDER_ADDRESS;

@@ -26,7 +26,6 @@ public:
 private:
     bool OnInitDialog() override;
     bool OnCommand(int id, int code, HWND control) override;
-    std::wstring TextOf(int id) const;
 
     std::wstring m_caption;
     SenderFields m_initial;

@@ -3,7 +3,6 @@
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
 #include "ui/FeedbackIds.h"
-#include "ui/Headline.h"
 
 namespace Orva::Ui {
 
@@ -22,11 +21,8 @@ bool CFeedbackDlg::OnInitDialog() {
     ApplyControlTexts(Handle(), FeedbackTexts(), m_services.strings);
     ::CheckRadioButton(Handle(), IDC_FEEDBACK_YES, IDC_FEEDBACK_NO,
                        m_choice.takesPart ? IDC_FEEDBACK_YES : IDC_FEEDBACK_NO);
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_WTC_YES_FONT", L"IDS_CUSTOM_LEVEL_FONT_SIZE");
-    m_font = CreateHeadlineFont(Handle(), font.face, font.points);
-    ::SendDlgItemMessageW(Handle(), IDC_FEEDBACK_TITLE, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_font.get()), FALSE);
+    m_font = SetHeadlineFont(Handle(), {IDC_FEEDBACK_TITLE}, m_services.strings,
+                             L"IDS_WTC_YES_FONT", L"IDS_CUSTOM_LEVEL_FONT_SIZE");
     m_link.SubclassWindow(Item(IDC_FEEDBACK_LINK));
     m_link.SetAddress(m_choice.informationAddress);
     return true;

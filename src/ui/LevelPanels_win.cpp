@@ -13,16 +13,8 @@ namespace {
 
 // Puts the installation's company name into a headline that asks for it.
 void ExpandHeadline(HWND panel, int id, PageServices& services) {
-    wchar_t text[512] = {};
-    ::GetDlgItemTextW(panel, id, text, static_cast<int>(std::size(text)));
+    const std::wstring text = WindowText(::GetDlgItem(panel, id));
     ::SetDlgItemTextW(panel, id, ExpandCorpName(text, services.settings, services.strings).c_str());
-}
-
-ZelCommon::Platform::unique_hfont HeadlineFontFor(HWND panel, PageServices& services,
-                                                  std::wstring_view faceId,
-                                                  std::wstring_view sizeId) {
-    const FontSpec font = HeadlineFont(services.strings, faceId, sizeId);
-    return CreateHeadlineFont(panel, font.face, font.points);
 }
 
 }  // namespace
@@ -41,12 +33,9 @@ bool CDefaultLevel::OnInitDialog() {
     ExpandHeadline(Handle(), IDC_DEFAULT_NOTE, m_services);
     m_slider.Attach(Handle(), {IDC_LEVEL_SLIDER, IDC_LABEL_HIGH, IDC_LABEL_MEDIUM, IDC_LABEL_LOW},
                     m_services);
-    m_headlineFont = HeadlineFontFor(Handle(), m_services, L"IDS_ORVA_SYSTEM_FONT",
-                                     L"IDS_INTERMEDIATE_FONT_SIZE");
-    for (const int headline : {IDC_DEFAULT_TITLE, IDC_DEFAULT_NOTE}) {
-        ::SendDlgItemMessageW(Handle(), headline, WM_SETFONT,
-                              reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
-    }
+    m_headlineFont =
+        SetHeadlineFont(Handle(), {IDC_DEFAULT_TITLE, IDC_DEFAULT_NOTE}, m_services.strings,
+                        L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
     ShowModel();
     return true;
 }
@@ -84,10 +73,8 @@ bool CCustomLevel::OnInitDialog() {
     UseWhiteBackground();
     ApplyControlTexts(Handle(), CustomLevelTexts(), m_services.strings);
     ExpandHeadline(Handle(), IDC_CUSTOM_TITLE, m_services);
-    m_headlineFont =
-        HeadlineFontFor(Handle(), m_services, L"IDS_WTC_YES_FONT", L"IDS_CUSTOM_LEVEL_FONT_SIZE");
-    ::SendDlgItemMessageW(Handle(), IDC_CUSTOM_TITLE, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
+    m_headlineFont = SetHeadlineFont(Handle(), {IDC_CUSTOM_TITLE}, m_services.strings,
+                                     L"IDS_WTC_YES_FONT", L"IDS_CUSTOM_LEVEL_FONT_SIZE");
     ShowModel();
     return true;
 }

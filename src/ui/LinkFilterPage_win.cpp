@@ -3,7 +3,6 @@
 #include "ui/BitmapSlider_win.h"
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
-#include "ui/Headline.h"
 
 namespace Orva::Ui {
 
@@ -14,11 +13,8 @@ bool CWorryFreeLevel::OnInitDialog() {
         Handle(),
         {IDC_WEXOR_SLIDER, IDC_WEXOR_LABEL_HIGH, IDC_WEXOR_LABEL_MEDIUM, IDC_WEXOR_LABEL_LOW},
         m_services);
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
-    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    ::SendDlgItemMessageW(Handle(), IDC_WEXOR_TITLE, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
+    m_headlineFont = SetHeadlineFont(Handle(), {IDC_WEXOR_TITLE}, m_services.strings,
+                                     L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
     m_slider.SetPosition(m_model.SliderPosition());
     SetChecked(IDC_CHECK_ENABLE_WEXOR, m_model.FilterEnabled());
     return true;

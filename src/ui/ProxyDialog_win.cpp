@@ -1,11 +1,9 @@
 #include "ui/ProxyDialog_win.h"
 
 #include <utility>
-#include <vector>
 
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
-#include "ui/Headline.h"
 #include "ui/UpdatesIds.h"
 
 namespace Orva::Ui {
@@ -21,12 +19,10 @@ bool CProxySettingDlg::OnInitDialog() {
         ::SetWindowTextW(Handle(), caption.c_str());
     }
     ApplyControlTexts(Handle(), ProxyTexts(), m_services.strings);
-    ::SetDlgItemTextW(Handle(), IDC_PROXY_TITLE, m_model.Headline(TextOf(IDC_PROXY_TITLE)).c_str());
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
-    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    ::SendDlgItemMessageW(Handle(), IDC_PROXY_TITLE, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
+    ::SetDlgItemTextW(Handle(), IDC_PROXY_TITLE,
+                      m_model.Headline(ItemText(IDC_PROXY_TITLE)).c_str());
+    m_headlineFont = SetHeadlineFont(Handle(), {IDC_PROXY_TITLE}, m_services.strings,
+                                     L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
 
     const ProxyFields fields = m_model.Load();
     SetChecked(IDC_PROXY_ENABLE, fields.enabled);
@@ -40,13 +36,6 @@ bool CProxySettingDlg::OnInitDialog() {
     return true;
 }
 
-std::wstring CProxySettingDlg::TextOf(int id) const {
-    const HWND control = Item(id);
-    std::vector<wchar_t> text(static_cast<size_t>(::GetWindowTextLengthW(control)) + 1);
-    const int length = ::GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
-    return std::wstring(text.data(), static_cast<size_t>(length > 0 ? length : 0));
-}
-
 bool CProxySettingDlg::OnCommand(int id, int /*code*/, HWND /*control*/) {
     if (id == IDCANCEL) {
         ::EndDialog(Handle(), IDCANCEL);
@@ -55,9 +44,9 @@ bool CProxySettingDlg::OnCommand(int id, int /*code*/, HWND /*control*/) {
     if (id != IDOK) {
         return false;
     }
-    const ProxyFields shown{IsChecked(IDC_PROXY_ENABLE), TextOf(IDC_PROXY_HOST),
-                            TextOf(IDC_PROXY_PORT), TextOf(IDC_PROXY_USER),
-                            TextOf(IDC_PROXY_PASSWORD)};
+    const ProxyFields shown{IsChecked(IDC_PROXY_ENABLE), ItemText(IDC_PROXY_HOST),
+                            ItemText(IDC_PROXY_PORT), ItemText(IDC_PROXY_USER),
+                            ItemText(IDC_PROXY_PASSWORD)};
     switch (m_model.Save(shown)) {
         case ProxyField::Host:
             ::SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_PROXY_HOST)),

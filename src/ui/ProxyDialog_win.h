@@ -23,8 +23,6 @@ private:
     bool OnInitDialog() override;
     bool OnCommand(int id, int code, HWND control) override;
 
-    std::wstring TextOf(int id) const;
-
     PageServices& m_services;
     CProxyModel m_model;
     CDigitEdit m_port;

@@ -7,7 +7,6 @@
 #include "ui/ControlTexts.h"
 #include "ui/DialogIds.h"
 #include "ui/DialogTexts_win.h"
-#include "ui/Headline.h"
 
 namespace Orva::Ui {
 namespace {
@@ -56,11 +55,8 @@ bool CSenderListPage::OnInitDialog() {
     const bool approved = m_model.Kind().approvedExtras;
     ApplyControlTexts(Handle(), approved ? ApprovedPageTexts() : BlockedPageTexts(),
                       m_services.strings);
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
-    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    ::SendDlgItemMessageW(Handle(), IDC_LIST_TITLE, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
+    m_headlineFont = SetHeadlineFont(Handle(), {IDC_LIST_TITLE}, m_services.strings,
+                                     L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
     m_list.SubclassWindow(Item(IDC_LIST_VIEW));
     AddColumns();
     m_model.Load(reinterpret_cast<uintptr_t>(Handle()));

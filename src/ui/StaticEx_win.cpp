@@ -1,23 +1,15 @@
 #include "ui/StaticEx_win.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "settings/log/DebugLog.h"
+#include "ui/DialogTexts_win.h"
 
 namespace Orva::Ui {
 namespace {
 
 HFONT FontOf(HWND window) {
     return reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0));
-}
-
-std::wstring TextOf(HWND window) {
-    const int length = ::GetWindowTextLengthW(window);
-    std::wstring text(static_cast<std::size_t>(std::max(length, 0)) + 1, L'\0');
-    const int copied = ::GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(std::clamp(copied, 0, length)));
-    return text;
 }
 
 // The static's own alignment and prefix styles, as DrawText flags.
@@ -167,7 +159,7 @@ void CStaticEx::Paint(HDC dc) {
     if (const HFONT font = FontOf(window)) {
         ::SelectObject(dc, font);
     }
-    const std::wstring text = TextOf(window);
+    const std::wstring text = WindowText(window);
     ::DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &client,
                 TextFormatOf(::GetWindowLongPtrW(window, GWL_STYLE)));
     ::RestoreDC(dc, saved);

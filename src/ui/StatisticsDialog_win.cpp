@@ -1,22 +1,13 @@
 #include "ui/StatisticsDialog_win.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
-#include "ui/Headline.h"
 #include "ui/StatisticsIds.h"
 
 namespace Orva::Ui {
 namespace {
-
-std::wstring WindowText(HWND window) {
-    const int length = ::GetWindowTextLengthW(window);
-    std::wstring text(static_cast<size_t>(std::max(length, 0)) + 1, L'\0');
-    text.resize(static_cast<size_t>(::GetWindowTextW(window, text.data(), length + 1)));
-    return text;
-}
 
 // Seconds since 1970 as the user's local date; now when there are none.
 std::optional<SYSTEMTIME> LocalDate(std::optional<int64_t> secondsSince1970) {
@@ -44,26 +35,22 @@ CStatisticsDialog::CStatisticsDialog(CStatisticsModel& model, PageServices& serv
 
 bool CStatisticsDialog::OnInitDialog() {
     UseWhiteBackground();
-    m_detectionRateFormat = WindowText(Item(IDC_STAT_DETECTION_RATE));
-    m_falsePositiveRateFormat = WindowText(Item(IDC_STAT_FP_RATE));
+    m_detectionRateFormat = ItemText(IDC_STAT_DETECTION_RATE);
+    m_falsePositiveRateFormat = ItemText(IDC_STAT_FP_RATE);
     ApplyControlTexts(Handle(), StatisticsDialogTexts(), m_services.strings);
     const std::wstring caption = m_services.strings.LoadShown(L"IDS_STATIST_CAPTION");
     if (!caption.empty()) {
         ::SetWindowTextW(Handle(), caption.c_str());
     }
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_WTC_YES_FONT", L"IDS_STATISTIC_DLG_FONT_SIZE");
-    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    for (const int headline :
-         {IDC_STAT_TITLE, IDC_STAT_MESSAGES_TITLE, IDC_STAT_RATES_TITLE, IDC_STAT_CHART_TITLE}) {
-        ::SendDlgItemMessageW(Handle(), headline, WM_SETFONT,
-                              reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
-    }
+    m_headlineFont = SetHeadlineFont(
+        Handle(),
+        {IDC_STAT_TITLE, IDC_STAT_MESSAGES_TITLE, IDC_STAT_RATES_TITLE, IDC_STAT_CHART_TITLE},
+        m_services.strings, L"IDS_WTC_YES_FONT", L"IDS_STATISTIC_DLG_FONT_SIZE");
     m_model.BuildBaseLayout();
     ShowBaseLayoutOrLog();
     m_model.Recompute();
     ShowFigures();
-    const std::wstring title = m_model.TitleText(WindowText(Item(IDC_STAT_TITLE)));
+    const std::wstring title = m_model.TitleText(ItemText(IDC_STAT_TITLE));
     ::SetDlgItemTextW(Handle(), IDC_STAT_TITLE, title.c_str());
     return true;
 }

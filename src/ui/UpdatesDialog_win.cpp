@@ -6,7 +6,6 @@
 
 #include "ui/ControlTexts.h"
 #include "ui/DialogTexts_win.h"
-#include "ui/Headline.h"
 #include "ui/ProxyDialog_win.h"
 #include "ui/UpdatesIds.h"
 
@@ -54,11 +53,8 @@ bool CUpdatesDlg::OnInitDialog() {
     wchar_t group[256] = {};
     ::GetDlgItemTextW(Handle(), IDC_UPDATES_GROUP, group, static_cast<int>(std::size(group)));
     ::SetDlgItemTextW(Handle(), IDC_UPDATES_GROUP, m_model.GroupTitle(group).c_str());
-    const FontSpec font =
-        HeadlineFont(m_services.strings, L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
-    m_headlineFont = CreateHeadlineFont(Handle(), font.face, font.points);
-    ::SendDlgItemMessageW(Handle(), IDC_UPDATES_GROUP, WM_SETFONT,
-                          reinterpret_cast<WPARAM>(m_headlineFont.get()), FALSE);
+    m_headlineFont = SetHeadlineFont(Handle(), {IDC_UPDATES_GROUP}, m_services.strings,
+                                     L"IDS_ORVA_SYSTEM_FONT", L"IDS_INTERMEDIATE_FONT_SIZE");
 
     const HWND interval = Item(IDC_UPDATES_INTERVAL);
     for (const std::wstring_view id : IntervalNameIds()) {
