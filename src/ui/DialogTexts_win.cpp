@@ -89,8 +89,8 @@ void CToolTips::Add(HWND control, const std::wstring& text) {
 unique_hfont SetHeadlineFont(HWND dialog, std::initializer_list<int> headlines,
                              Settings::ILocalisedStrings& strings, std::wstring_view faceId,
                              std::wstring_view sizeId) {
-    const FontSpec spec = HeadlineFont(strings, faceId, sizeId);
-    unique_hfont font = CreateHeadlineFont(dialog, spec.face, spec.points);
+    const FontSpec wanted = HeadlineFont(strings, faceId, sizeId);
+    unique_hfont font = CreateHeadlineFont(dialog, wanted.face, wanted.points);
     for (const int headline : headlines) {
         ::SendDlgItemMessageW(dialog, headline, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()),
                               FALSE);
